@@ -1,0 +1,126 @@
+// The control's event handlers: what a gesture does. Each shows and logs its own errors.
+#include <string>
+
+#include "control/Hourglass.h"
+#include "control/Layout.h"
+#include "control/ucProcessLog.h"
+
+namespace quorvel {
+
+using datasource::Reporting;
+using widgets::NodeId;
+using widgets::Twips;
+
+void ucProcessLog::UserControl_Resize(Twips width, Twips height) {
+  Reporting(errors_, "Quorvel: ucProcessLog.UserControl_Resize", [&] {
+    width_ = width;
+    height_ = height;
+    LayOut();
+  });
+}
+
+void ucProcessLog::sstProcessLog_Click() {
+  Reporting(errors_, "Quorvel: ucProcessLog.sstProcessLog_Click", [&] {
+    const Hourglass hourglass(platform_);
+    const std::string caption(controls_.sstProcessLog.currentCaption());
+    const View view = ViewOfTab(f_tlFromType, caption);
+    // The key needs the tree that is about to go.
+    const std::string place = GetNextContextKeyInLogs(SelectedKey(), caption);
+    InitListView();
+    controls_.tvMotherList.Clear();
+    InitStateListByTab();
+    ControlsVisible(static_cast<std::int32_t>(ReadOptions(controls_, StateFilter::kAll).state));
+    BuildView(view, place);
+  });
+}
+
+void ucProcessLog::cmdRefresh_Click() {
+  Reporting(errors_, "Quorvel: ucProcessLog.cmdRefresh_Click", [&] {
+    const Hourglass hourglass(platform_);
+    const std::string place(SelectedKey());
+    if (f_tlFromType == tlFromType::tlOneProcess) {
+      StateFilter state = StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll);
+      m_GetLogAll(state);
+    } else {
+      // The host's whole log list is the alarms view here, though its tab click builds nothing.
+      const bool logs = f_tlFromType == tlFromType::tlLogs;
+      BuildView(logs ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()), place);
+    }
+  });
+}
+
+void ucProcessLog::cboState_Click() {
+  Reporting(errors_, "Quorvel: ucProcessLog.cboState_Click", [&] {
+    const auto state = StateFilterOf(controls_.cboState.selectedText());
+    if (state) ControlsVisible(static_cast<std::int32_t>(*state));
+  });
+}
+
+void ucProcessLog::cboDuringUnit_Click() {
+  Reporting(errors_, "Quorvel: ucProcessLog.cboDuringUnit_Click", [&] { LimitPeriod(controls_); });
+}
+
+void ucProcessLog::updDuring_Change() {
+  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_Change",
+            [&] { controls_.txtDuring.SetText(std::to_string(controls_.updDuring.value())); });
+}
+
+void ucProcessLog::tvMotherList_Expand(NodeId node) {
+  Reporting(errors_, "Quorvel: ucProcessLog.tvMotherList_Expand", [&] {
+    const Hourglass hourglass(platform_);
+    controls_.tvMotherList.InBatch([&] {
+      LoadNode(node);
+      controls_.tvMotherList.SetExpanded(node, true);
+    });
+  });
+}
+
+void ucProcessLog::tvMotherList_Collapse(NodeId node) {
+  Reporting(errors_, "Quorvel: ucProcessLog.tvMotherList_Collapse",
+            [&] { controls_.tvMotherList.SetExpanded(node, false); });
+}
+
+void ucProcessLog::tvMotherList_NodeClick(NodeId node) {
+  if (f_blnClickNode) return;
+  f_blnClickNode = true;
+  Reporting(errors_, "Quorvel: ucProcessLog.tvMotherList_NodeClick", [&] {
+    const Hourglass hourglass(platform_);
+    HandleNodeClick(node);
+  });
+  f_blnClickNode = false;
+}
+
+void ucProcessLog::imgSplitter_MouseDown() {
+  Reporting(errors_, "Quorvel: ucProcessLog.imgSplitter_MouseDown", [&] {
+    BeginSplitterDrag(controls_);
+    splitterMoving_ = true;
+    splitterMoved_ = false;
+  });
+}
+
+void ucProcessLog::imgSplitter_MouseMove(Twips x) {
+  if (!splitterMoving_) return;
+  Reporting(errors_, "Quorvel: ucProcessLog.imgSplitter_MouseMove", [&] {
+    MoveSplitterBar(controls_, x, width_);
+    splitterMoved_ = true;
+  });
+}
+
+void ucProcessLog::imgSplitter_MouseUp() {
+  if (!splitterMoving_) return;
+  Reporting(errors_, "Quorvel: ucProcessLog.imgSplitter_MouseUp", [&] {
+    float treeWidth = EndSplitterDrag(controls_);
+    splitterMoving_ = false;
+    if (splitterMoved_) SizeControls(treeWidth);
+  });
+}
+
+void ucProcessLog::HScroll_Change() {
+  Reporting(errors_, "Quorvel: ucProcessLog.HScroll_Change", [&] { LayOut(); });
+}
+
+void ucProcessLog::VScroll_Change() {
+  Reporting(errors_, "Quorvel: ucProcessLog.VScroll_Change", [&] { LayOut(); });
+}
+
+}  // namespace quorvel

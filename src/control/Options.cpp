@@ -1,0 +1,168 @@
+#include "control/Options.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <span>
+#include <system_error>
+#include <vector>
+
+#include "platform/Error.h"
+
+namespace quorvel {
+namespace {
+
+constexpr std::int32_t kLongestPeriod = 99;
+
+struct StateText {
+  std::string_view text;
+  StateFilter state;
+};
+
+// "Before" and "Unknown" are one state, as are "Information" and "OK": tabs name them differently.
+constexpr StateText kStateTexts[] = {
+    {"All", StateFilter::kAll},
+    {"OK", StateFilter::kOk},
+    {"Information", StateFilter::kOk},
+    {"Error", StateFilter::kError},
+    {"In progress", StateFilter::kInProgress},
+    {"Last execution", StateFilter::kLastExecution},
+    {"Unknown", StateFilter::kUnknown},
+    {"Before", StateFilter::kUnknown},
+};
+
+struct Counterpart {
+  std::string_view text;
+  std::string_view counterpart;
+};
+
+// The states that a tab offers, what stands for a text that it does not offer, and what stands for any other.
+struct TabStates {
+  std::string_view tab;
+  std::span<const std::string_view> texts;
+  std::span<const Counterpart> counterparts;
+  std::string_view otherwise;
+};
+
+constexpr std::string_view kConnectionTexts[] = {"All", "OK", "Error", "Last execution"};
+constexpr std::string_view kBackupTexts[] = {"All", "OK", "Error"};
+constexpr std::string_view kSystemTexts[] = {"All", "Error", "Before", "Information"};
+constexpr std::string_view kProcessTexts[] = {"All", "OK", "In progress", "Error", "Unknown", "Last execution"};
+constexpr Counterpart kSystemCounterparts[] = {{"OK", "Information"}, {"Unknown", "Before"}};
+constexpr Counterpart kProcessCounterparts[] = {{"Information", "OK"}, {"Before", "Unknown"}};
+
+constexpr TabStates kTabs[] = {
+    {"Connections", kConnectionTexts, {}, "All"},
+    {"Backups", kBackupTexts, {}, "All"},
+    {"System", kSystemTexts, kSystemCounterparts, "Information"},
+};
+constexpr TabStates kOtherTabs{"", kProcessTexts, kProcessCounterparts, "Last execution"};
+
+const TabStates& StatesOf(std::string_view tabCaption) {
+  const auto* const found = std::ranges::find(kTabs, tabCaption, &TabStates::tab);
+  return found == std::end(kTabs) ? kOtherTabs : *found;
+}
+
+std::string_view CounterpartOf(const TabStates& states, std::string_view text) {
+  const auto found = std::ranges::find(states.counterparts, text, &Counterpart::text);
+  return found == states.counterparts.end() ? states.otherwise : found->counterpart;
+}
+
+std::int32_t WholeNumber(std::string_view text) {
+  std::int32_t number = 0;
+  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (code == std::errc::result_out_of_range) throw Error(SystemError::kOverflow, "Overflow: " + std::string(text));
+  if (code != std::errc() || end != text.data() + text.size()) {
+    throw Error(SystemError::kTypeMismatch, "Not a whole number: \"" + std::string(text) + "\"");
+  }
+  return number;
+}
+
+DateInterval SelectedUnit(const ProcessLogControls& controls) {
+  return static_cast<DateInterval>(controls.cboDuringUnit.selected().value_or(0));
+}
+
+}  // namespace
+
+std::optional<StateFilter> StateFilterOf(std::string_view text) {
+  const auto* const found = std::ranges::find(kStateTexts, text, &StateText::text);
+  return found == std::end(kStateTexts) ? std::nullopt : std::optional(found->state);
+}
+
+void FillStateList(widgets::ComboBox& cboState, std::string_view tabCaption) {
+  const std::string before = cboState.selectedText();
+  const TabStates& states = StatesOf(tabCaption);
+  std::vector<widgets::Item> items;
+  for (const std::string_view text : states.texts) {
+    items.push_back({std::string(text), static_cast<std::int32_t>(*StateFilterOf(text))});
+  }
+  cboState.SetItems(std::move(items));
+  const std::optional<std::size_t> same = cboState.RowOfText(before);
+  cboState.Select(same ? *same : *cboState.RowOfText(CounterpartOf(states, before)));
+}
+
+void FillOptionTexts(ProcessLogControls& c) {
+  c.lblState.SetText("&State");
+  c.cboState.SetToolTip("Show only runs with this outcome");
+  c.lblDate.SetText("S&tart");
+  c.dtpDate.SetToolTip("First day of the period");
+  c.dtpHour.SetToolTip("Time of day at which the period begins and ends");
+  c.lblDuring.SetText("D&uring");
+  c.txtDuring.SetToolTip("Length of the period");
+  c.cboDuringUnit.SetToolTip("Unit of the length");
+  c.chkCommunicationsFilter.SetText("&Failed connections only");
+  c.chkGroupByDay.SetText("&Group by day");
+  c.chkAlarmFilter.SetText("&Active alarms only");
+  c.cmdRefresh.SetText("&Refresh");
+  c.cmdRefresh.SetToolTip("Read the history again (F5)");
+  c.cboDuringUnit.SetItems({{"Months", 0}, {"Days", 0}, {"Hours", 0}});
+  c.cboDuringUnit.Select(0);
+  c.updDuring.SetRange(1, kLongestPeriod);
+  c.lstGroupBy.SetItems({{"- Origin", 0}, {"- User", 1}, {"- Date", 2}, {"- Processes", 3}});
+  c.lstGroupBy.Select(0);
+}
+
+OptionsFilter ReadOptions(const ProcessLogControls& c, StateFilter stateBefore) {
+  OptionsFilter filter;
+  filter.start = c.dtpDate.value() + c.dtpHour.value();
+  filter.end = AddInterval(filter.start, SelectedUnit(c), WholeNumber(c.txtDuring.text()));
+  filter.state = StateFilterOf(c.cboState.selectedText()).value_or(stateBefore);
+  for (const widgets::Item& item : c.lstGroupBy.items()) filter.groupBy += std::to_string(item.data);
+  return filter;
+}
+
+void LimitPeriod(ProcessLogControls& c) {
+  // One limit for months, days and hours alike; hosts count on it.
+  c.updDuring.SetRange(1, kLongestPeriod);
+  const std::string& text = c.txtDuring.text();
+  std::int32_t number = 0;
+  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool tooLong = code == std::errc::result_out_of_range || (code == std::errc() && number > kLongestPeriod);
+  if (tooLong && end == text.data() + text.size()) c.txtDuring.SetText(std::to_string(kLongestPeriod));
+}
+
+void ShowOptions(ProcessLogControls& c, StateFilter state) {
+  // The last execution of each process needs no period.
+  const bool period = state != StateFilter::kLastExecution;
+  for (widgets::Control* control : std::initializer_list<widgets::Control*>{
+           &c.lblDate, &c.dtpDate, &c.dtpHour, &c.lblDuring, &c.txtDuring, &c.updDuring, &c.cboDuringUnit}) {
+    control->SetVisible(period);
+  }
+  const bool connections = c.sstProcessLog.currentCaption() == "Connections";
+  c.chkCommunicationsFilter.SetVisible(connections);
+  c.chkGroupByDay.SetVisible(connections);
+}
+
+void SetPeriodStart(ProcessLogControls& c, DateValue now) {
+  const DateInterval unit = SelectedUnit(c);
+  const DateValue start = AddInterval(now, unit, -WholeNumber(c.txtDuring.text()));
+  if (unit == DateInterval::kHours) {
+    c.dtpHour.SetValue(TimePart(start));
+    c.dtpDate.SetValue(DatePart(start));
+    return;
+  }
+  c.dtpHour.SetValue(0);
+  c.dtpDate.SetValue(AddInterval(DatePart(start), DateInterval::kDays, 1));
+}
+
+}  // namespace quorvel

@@ -1,0 +1,45 @@
+// The options panel: its lists, and the filter that they make up.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "control/Enumerations.h"
+#include "control/ProcessLogControls.h"
+#include "platform/Dates.h"
+
+namespace quorvel {
+
+// What the options panel asks for.
+struct OptionsFilter {
+  DateValue start = 0;  // start <= date < end
+  DateValue end = 0;
+  StateFilter state = StateFilter::kAll;
+  std::string groupBy;  // four digits: the item data of lstGroupBy's rows
+};
+
+// The state filter that a text of cboState stands for, on whatever tab; nothing for any other text.
+std::optional<StateFilter> StateFilterOf(std::string_view text);
+
+// Fills cboState with the states of a tab. The text selected before stays selected, or its counterpart does.
+void FillStateList(widgets::ComboBox& cboState, std::string_view tabCaption);
+
+// Fills the unit and group lists and the texts of the panel, as they are at start-up.
+void FillOptionTexts(ProcessLogControls& controls);
+
+// Reads the panel. `stateBefore` stays where the text of cboState stands for no state. Errors 13 and 6 for a period
+// that is no whole number or does not fit, 6 for an end beyond the calendar.
+OptionsFilter ReadOptions(const ProcessLogControls& controls, StateFilter stateBefore);
+
+// Cuts the period and its up-down to the one limit that serves every unit.
+void LimitPeriod(ProcessLogControls& controls);
+
+// Shows the controls that this state and tab call for.
+void ShowOptions(ProcessLogControls& controls, StateFilter state);
+
+// Sets the start of the period so that `count` units of `unit` end now: hours to the hour, days and months from
+// midnight of the day after the one that lies so far back.
+void SetPeriodStart(ProcessLogControls& controls, DateValue now);
+
+}  // namespace quorvel

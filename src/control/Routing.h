@@ -1,0 +1,33 @@
+// Which routine serves which node on expand and on click, by the shape of its key.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "control/Enumerations.h"
+
+namespace quorvel {
+
+// Loads the children of a node.
+enum class ExpandRoutine { kNone, kStateGroup };
+
+// Fills the list for a node.
+enum class ClickRoutine { kNone, kNodeProcess };
+
+struct NodeRoute {
+  std::string_view prefix;
+  std::size_t fields;  // of the key, the prefix included
+  ExpandRoutine expand;
+  ClickRoutine click;
+};
+
+// The route of a node by its key; one that does nothing for a key of no known shape.
+const NodeRoute& RouteOf(std::string_view key);
+
+// The views that a tab can build.
+enum class View { kNone, kProcesses, kUsers, kConnections, kSystem, kAlarms, kBackups };
+
+// Which view a tab click builds. Tabs are told by their caption.
+View ViewOfTab(tlFromType fromType, std::string_view tabCaption);
+
+}  // namespace quorvel

@@ -1,0 +1,181 @@
+#include "control/ucProcessLog.h"
+
+#include <charconv>
+#include <optional>
+#include <system_error>
+
+#include "control/Layout.h"
+#include "tree/StateGroups.h"
+
+namespace quorvel {
+namespace {
+
+using datasource::Propagating;
+
+// The tree width that a new control starts with, before the user drags the splitter.
+constexpr widgets::Twips kFirstTreeWidth = 6000;
+// The size that a new control has until its host gives it one.
+constexpr widgets::Twips kFirstWidth = 15000;
+constexpr widgets::Twips kFirstHeight = 9000;
+
+constexpr std::size_t kDaysRow = 1;  // of cboDuringUnit
+constexpr std::string_view kDefaultPeriod = "1";
+
+std::optional<std::int32_t> NumberWithin(std::string_view text, std::int32_t least, std::int32_t most) {
+  std::int32_t number = 0;
+  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool isNumber = code == std::errc() && end == text.data() + text.size();
+  if (!isNumber || number < least || number > most) return std::nullopt;
+  return number;
+}
+
+std::vector<widgets::Tab> AllTabs() {
+  // A tab whose view is not built yet is shown, but cannot be chosen.
+  return {{"Processes", true, true}, {"Users", true, false},  {"Connections", true, false},
+          {"System", true, false},   {"Alarms", true, false}, {"Backups", true, false}};
+}
+
+}  // namespace
+
+ucProcessLog::ucProcessLog(Platform& platform, datasource::RecordSourceFactory& factory)
+    : platform_(platform), factory_(factory), errors_(platform), width_(kFirstWidth), height_(kFirstHeight) {
+  datasource::Reporting(errors_, "Quorvel: ucProcessLog.UserControl_Initialize", [&] {
+    ProcessLogControls& c = controls_;
+    c.imgSplitter.SetBounds({kFirstTreeWidth, 0, 0, 0});
+    c.picSplitter.SetVisible(false);
+    c.lstGroupBy.SetVisible(false);
+    c.updGroupBy.SetVisible(false);
+    c.chkAlarmFilter.SetVisible(false);
+    LayOut();
+    c.sstProcessLog.SetTabs(AllTabs());
+    FillOptionTexts(c);
+    const DateValue now = platform_.Now();
+    c.dtpDate.SetValue(DatePart(now));
+    c.dtpHour.SetValue(TimePart(now));
+    c.txtDuring.SetText(kDefaultPeriod);
+    FillStateList(c.cboState, c.sstProcessLog.currentCaption());
+    c.cboState.Select(*c.cboState.RowOfText("Last execution"));
+    ControlsVisible(static_cast<std::int32_t>(StateFilter::kLastExecution));
+    InitListView();
+    SetfraListCaption();
+  });
+}
+
+ucProcessLog::~ucProcessLog() {
+  // Hosts that share a component among controls rely on this order.
+  commandLog_.reset();
+  processLog_.reset();
+  labels_.reset();
+}
+
+void ucProcessLog::p_Connect(std::int32_t value) {
+  if (value != f_lngConnect) labelsRead_ = false;
+  f_lngConnect = value;
+}
+
+std::int32_t ucProcessLog::p_ListCount() const {
+  return static_cast<std::int32_t>(controls_.lvMotherList.Count());
+}
+
+void ucProcessLog::Init() {
+  Propagating("Quorvel: ucProcessLog.Init", [&] {
+    if (labelsRead_) return;
+    if (!labels_) labels_ = datasource::CreateRecordSource<datasource::Labels>(factory_, f_strServerName);
+    const std::string useType = LabelValue(*labels_, "UseType");
+    serverMode_ = useType.empty() || useType == "SERVEUR";
+    std::optional<std::int32_t> period;
+    std::optional<std::int32_t> unit;
+    if (!useType.empty()) {
+      const std::string role = serverMode_ ? "SERVER" : "STATION";
+      period = NumberWithin(LabelValue(*labels_, role + "_LOGS_DISPLAY_PERIOD"), 1, controls_.updDuring.maximum());
+      unit = NumberWithin(LabelValue(*labels_, role + "_LOGS_DISPLAY_TYPE"), 0, 2);
+    }
+    controls_.txtDuring.SetText(period ? std::to_string(*period) : std::string(kDefaultPeriod));
+    controls_.cboDuringUnit.Select(unit ? static_cast<std::size_t>(*unit) : kDaysRow);
+    SetPeriodStart(controls_, platform_.Now());
+    labelsRead_ = true;
+  });
+}
+
+// Empty when the installation has no such setting: every setting has a default.
+std::string ucProcessLog::LabelValue(datasource::Labels& labels, std::string_view name) {
+  std::int32_t status = 0;
+  labels.GetLabel(f_lngConnect, name, status);
+  return status == 0 ? labels.strLabelValue() : std::string();
+}
+
+OptionsFilter ucProcessLog::ReturnOptionsFilter(StateFilter stateBefore, bool showOptions) {
+  return Propagating("Quorvel: ucProcessLog.ReturnOptionsFilter", [&] {
+    OptionsFilter filter = ReadOptions(controls_, stateBefore);
+    if (showOptions) ControlsVisible(static_cast<std::int32_t>(filter.state));
+    return filter;
+  });
+}
+
+void ucProcessLog::InitStateListByTab() {
+  Propagating("Quorvel: ucProcessLog.InitStateListByTab",
+              [&] { FillStateList(controls_.cboState, controls_.sstProcessLog.currentCaption()); });
+}
+
+void ucProcessLog::ControlsVisible(std::int32_t stateCode) {
+  Propagating("Quorvel: ucProcessLog.ControlsVisible", [&] {
+    ShowOptions(controls_, static_cast<StateFilter>(stateCode));
+    LayOut();
+  });
+}
+
+void ucProcessLog::SizeControls(float& treeWidth) {
+  Propagating("Quorvel: ucProcessLog.SizeControls", [&] { LayOutPanes(controls_, treeWidth); });
+}
+
+void ucProcessLog::SizeControls() {
+  auto treeWidth = static_cast<float>(controls_.imgSplitter.bounds().left);
+  SizeControls(treeWidth);
+}
+
+void ucProcessLog::LayOut() {
+  LayOutControl(controls_, width_, height_);
+}
+
+void ucProcessLog::InitListView() {
+  Propagating("Quorvel: ucProcessLog.InitListView", [&] {
+    controls_.lvMotherList.InBatch([&] {
+      controls_.lvMotherList.SetRows(nullptr);
+      controls_.lvMotherList.SetHeaders({});
+      controls_.lvMotherList.SetSorted(false);
+    });
+  });
+}
+
+bool ucProcessLog::ClearColumnHeaderLV(std::string_view firstCaption) {
+  return Propagating("Quorvel: ucProcessLog.ClearColumnHeaderLV", [&] {
+    const auto& headers = controls_.lvMotherList.headers();
+    if (!headers.empty() && headers.front().caption == firstCaption) return false;
+    controls_.lvMotherList.SetHeaders({});
+    return true;
+  });
+}
+
+void ucProcessLog::SetfraListCaption() {
+  Propagating("Quorvel: ucProcessLog.SetfraListCaption", [&] {
+    const std::int32_t count = tree::CountItemsInTreeview(controls_.tvMotherList);
+    controls_.fraList.SetText(std::string(controls_.sstProcessLog.currentCaption()) + " (" + std::to_string(count) +
+                              ")");
+  });
+}
+
+void ucProcessLog::ModifyMotherListSize() {
+  Propagating("Quorvel: ucProcessLog.ModifyMotherListSize", [&] { SizeControls(); });
+}
+
+datasource::ProcessLog& ucProcessLog::ProcessLogSource() {
+  if (!processLog_) processLog_ = datasource::CreateRecordSource<datasource::ProcessLog>(factory_, f_strServerName);
+  return *processLog_;
+}
+
+datasource::CommandLog& ucProcessLog::CommandLogSource() {
+  if (!commandLog_) commandLog_ = datasource::CreateRecordSource<datasource::CommandLog>(factory_, f_strServerName);
+  return *commandLog_;
+}
+
+}  // namespace quorvel

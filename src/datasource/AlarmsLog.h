@@ -1,0 +1,60 @@
+// Alarms, with their acknowledgement.
+#pragma once
+
+#include "datasource/RecordSource.h"
+
+namespace quorvel::datasource {
+
+struct AlarmsLogRecords {
+  Column<std::int32_t> lngAlarmId;
+  Column<std::int32_t> lngOwnerId;
+  TextColumn strOwnerName;
+  Column<DateValue> dtDate;
+  Column<std::int32_t> lngSeverity;
+  Column<std::int32_t> lngAction;  // 1 to 5: what the alarm triggered; else a plain alarm
+  TextColumn strOrigin;            // "Server" is special
+  TextColumn strText;
+  Column<Flag> bAcknowledged;
+  TextColumn strAcknowledgedBy;
+  Column<DateValue> dtAcknowledged;
+  Column<std::int32_t> lngProcessLogId;  // the run that raised it, 0 = none
+  TextColumn strProcessName;
+
+  // Calls visit(name, column) for each column, in member order.
+  template <class Self, class Visit>
+  static void ForEachColumn(Self& self, Visit visit) {
+    visit("lngAlarmId", self.lngAlarmId);
+    visit("lngOwnerId", self.lngOwnerId);
+    visit("strOwnerName", self.strOwnerName);
+    visit("dtDate", self.dtDate);
+    visit("lngSeverity", self.lngSeverity);
+    visit("lngAction", self.lngAction);
+    visit("strOrigin", self.strOrigin);
+    visit("strText", self.strText);
+    visit("bAcknowledged", self.bAcknowledged);
+    visit("strAcknowledgedBy", self.strAcknowledgedBy);
+    visit("dtAcknowledged", self.dtAcknowledged);
+    visit("lngProcessLogId", self.lngProcessLogId);
+    visit("strProcessName", self.strProcessName);
+  }
+};
+
+class AlarmsLog : public RecordSource {
+ public:
+  static constexpr std::string_view kClassIdentifier = "clRecordHub.AlarmsLog";
+
+  // Alarms by owner name, newest first. Status 1: alarmId does not exist.
+  virtual void GetAlarms(std::int32_t connection, std::int32_t alarmId, std::int32_t reserved,
+                         std::int32_t& status) = 0;
+  virtual void CloseAlarms(std::int32_t connection) = 0;
+
+  // Alarms of one day, newest first. state: 0 active, 1 acknowledged, -1 both.
+  virtual void GetAlarmsByDay(std::int32_t connection, DateValue day, std::int32_t ownerId, std::int32_t state,
+                              std::int32_t& status) = 0;
+  virtual void CloseAlarmsByDay(std::int32_t connection) = 0;
+
+  // Valid until the next call that is not const.
+  virtual const AlarmsLogRecords& Records() const = 0;
+};
+
+}  // namespace quorvel::datasource

@@ -1,0 +1,45 @@
+#include "list/ChildList.h"
+
+#include <string>
+#include <vector>
+
+#include "widgets/TextArena.h"
+
+namespace quorvel::list {
+namespace {
+
+class NodeRows : public widgets::RowSource {
+ public:
+  NodeRows(const widgets::TreeView& tree, widgets::NodeId parent) {
+    const auto children = tree.Children(parent);
+    rows_.reserve(children.size());
+    for (const widgets::NodeId child : children) {
+      rows_.push_back(
+          {texts_.Append(tree.Key(child)), texts_.Append(tree.Text(child)), texts_.Append(tree.Image(child))});
+    }
+  }
+
+  std::size_t Count() const override { return rows_.size(); }
+  void AppendKey(std::size_t row, std::string& out) const override { out.append(texts_.View(rows_[row].key)); }
+  void AppendCell(std::size_t row, std::size_t /*column*/, std::string& out) const override {
+    out.append(texts_.View(rows_[row].text));
+  }
+  std::string_view Icon(std::size_t row) const override { return texts_.View(rows_[row].icon); }
+
+ private:
+  struct Row {
+    widgets::TextArena::Ref key;
+    widgets::TextArena::Ref text;
+    widgets::TextArena::Ref icon;
+  };
+  widgets::TextArena texts_;
+  std::vector<Row> rows_;
+};
+
+}  // namespace
+
+std::shared_ptr<const widgets::RowSource> ChildRows(const widgets::TreeView& tree, widgets::NodeId node) {
+  return std::make_shared<NodeRows>(tree, node);
+}
+
+}  // namespace quorvel::list

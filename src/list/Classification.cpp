@@ -1,0 +1,193 @@
+#include "list/Classification.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "util/PublicFunctions.h"
+
+namespace quorvel::list {
+namespace {
+
+using datasource::kTrue;
+
+struct TaskIcon {
+  std::string_view taskType;
+  std::string_view base;
+  bool runsOnStationAlone = false;  // never shown as waiting for the server
+};
+
+constexpr TaskIcon kTaskIcons[] = {
+    {"ControlServer", "ControlServer"},
+    {"ControlStation", "ControlStation", true},
+    {"Synchro", "ExchangeFolder"},
+    {"ExportSQLToFileServer", "ExportSQLServer"},
+    {"ExportSQLToFileStation", "ExportSQLStation", true},
+    {"FtpExplicitServer", "FTPServer"},
+    {"FtpExplicitStation", "FTPStation", true},
+    {"Inventory", "ProcessInventory"},
+    {"MailAgent", "Message"},
+    {"BatchServer", "ProgramServer"},
+    {"BatchStation", "ProgramStation", true},
+    {"Logiciel", "Softdist"},
+    {"Telecollecte", "Telecol"},
+    {"Teledistribution", "Teledist"},
+    {"TransferSpecific", "Transfer"},
+    {"ManageServer", "ManagementServer"},
+    {"ManageStation", "ManagementStation"},
+    {"SupervisionServer", "SupervisionServer"},
+    {"SupervisionStation", "SupervisionStation"},
+    {"BackupServer", "BackupServer"},
+    {"BackupStation", "BackupStation"},
+    {"Restore", "RestoreStation"},
+    {"SqlServer", "SynchroSQLServer"},
+    {"SqlStation", "SynchroSQLStation"},
+    {"MessageQueuing", "MessageQueuing"},
+    {"FileManagementServer", "FileManagementServer"},
+    {"FileManagementStation", "FileManagementStation"},
+};
+constexpr TaskIcon kOtherTask{"", "ProgramServer"};
+
+constexpr std::string_view kTaskWaitingServer = "TaskWaitingServer";
+
+struct StepIcon {
+  std::string_view station;
+  std::string_view global;
+};
+
+// By step kind, from 0.
+constexpr std::array<StepIcon, 5> kStepIcons{{
+    {"Step", "StepGlobal"},
+    {"StepCom", "StepComGlobal"},
+    {"StepFTP", "StepFTPGlobal"},
+    {"StepMailNotes", "StepMailNotesGlobal"},
+    {"StepMailOEX", "StepMailOEXGlobal"},
+}};
+
+struct AlarmIcon {
+  std::string_view fromServer;
+  std::string_view fromStation;
+};
+
+// By action, from 1.
+constexpr std::array<AlarmIcon, 5> kAlarmActionIcons{{
+    {"AlarmActionMailFromServer", "AlarmActionMailFromStation"},
+    {"AlarmActionProcessFromServer", "AlarmActionProcessFromStation"},
+    {"AlarmActionFileFromServer", "AlarmActionFileFromStation"},
+    {"AlarmActionProgramFromServer", "AlarmActionProgramFromStation"},
+    {"AlarmActionTriggerSnmpTrapFromServer", "AlarmActionTriggerSnmpTrapFromStation"},
+}};
+constexpr AlarmIcon kActiveAlarm{"AlarmFromServer", "AlarmFromStation"};
+constexpr AlarmIcon kAcknowledgedAlarm{"AlarmFromServerIsAcquitted", "AlarmFromStationIsAcquitted"};
+
+struct WaitState {
+  std::string_view text;
+  Classified shown;
+};
+
+constexpr WaitState kWaitStates[] = {
+    {"Waiting com", {"User_WaitingCom", "Waiting for connection"}},
+    {"Waiting station in com", {"User_WaitingStation", "Waiting for station report, online"}},
+    {"Waiting station out com", {"User_WaitingStation", "Waiting for station report, offline"}},
+    {"Waiting execution in com", {"User_WaitingExecution", "Waiting for online execution"}},
+    {"Waiting execution out com", {"User_WaitingExecution", "Waiting for delayed execution"}},
+    {"Waiting prerequisite", {"User_WaitingPrerequisite", "Waiting for prerequisites to be met"}},
+    {"To run", {"User", kInProgressCaption}},
+};
+constexpr Classified kPlainUser{"User", ""};
+
+Classified ClassifyWaiting(std::string_view waitState) {
+  const auto* const found = std::ranges::find(kWaitStates, waitState, &WaitState::text);
+  return found == std::end(kWaitStates) ? kPlainUser : found->shown;
+}
+
+}  // namespace
+
+std::string_view SetStateAndIconToListview(widgets::ListView& list, std::size_t row, Flag inProgress, Flag notOk,
+                                           Flag ok, Flag unknown) {
+  struct Outcome {
+    Flag flag;
+    Classified shown;
+  };
+  const Outcome outcomes[] = {
+      {inProgress, {"ProcessStart", kInProgressCaption}},
+      {notOk, {"ProcessNONOK", kNotOkCaption}},
+      {unknown, {"ProcessUndefined", kUnknownCaption}},
+      {ok, {"ProcessOk", kOkCaption}},
+  };
+  for (const Outcome& outcome : outcomes) {
+    if (outcome.flag == 0) continue;
+    list.SetIcon(row, outcome.shown.icon);
+    return outcome.shown.caption;
+  }
+  return kNotExecutedCaption;
+}
+
+Classified ClassifyUser(const UserFlags& flags, std::string_view waitState) {
+  if (flags.inProgress != 0) return ClassifyWaiting(waitState);
+  if (flags.ok == kTrue) return {"User_Ok", kUserOkCaption};
+  if (flags.notOk == kTrue) return {"User_NoOk", kUserNotOkCaption};
+  if (flags.unknown == kTrue) return {"User_Undefined", kUnknownCaption};
+  if (flags.executed == 0) return {"User_NoExecute", kNotExecutedCaption};
+  return kPlainUser;
+}
+
+StateGroup GroupOfUser(const UserFlags& flags) {
+  if (flags.inProgress != 0) return StateGroup::kInProgress;
+  if (flags.ok == kTrue) return StateGroup::kOk;
+  if (flags.notOk == kTrue) return StateGroup::kNotOk;
+  if (flags.unknown != kTrue && flags.executed == 0) return StateGroup::kNotExecuted;
+  return StateGroup::kUnknown;
+}
+
+std::string GetLogIconeTask(std::string_view taskType, Flag notExecuted, std::int32_t stationScope, Flag waiting,
+                            bool serverMode) {
+  const auto* const found = std::ranges::find(kTaskIcons, taskType, &TaskIcon::taskType);
+  const TaskIcon& icon = found == std::end(kTaskIcons) ? kOtherTask : *found;
+  if (notExecuted != 0 && waiting != 0 && !serverMode && !icon.runsOnStationAlone) {
+    return std::string(kTaskWaitingServer);
+  }
+  std::string key(icon.base);
+  if (notExecuted != 0) key.append("NotExec");
+  if (stationScope == 0) key.append("Global");
+  return key;
+}
+
+std::string_view GetLogIconeStep(std::int32_t stepKind, std::int32_t stationScope) {
+  if (stepKind < 0 || stepKind >= static_cast<std::int32_t>(kStepIcons.size())) return {};
+  const StepIcon& icon = kStepIcons[static_cast<std::size_t>(stepKind)];
+  return stationScope != 0 ? icon.station : icon.global;
+}
+
+std::string_view GetLogIconeAlarm(std::int32_t action, std::string_view origin, Flag acknowledged) {
+  const bool triggered = action >= 1 && action <= static_cast<std::int32_t>(kAlarmActionIcons.size());
+  const AlarmIcon& icon = triggered           ? kAlarmActionIcons[static_cast<std::size_t>(action - 1)]
+                          : acknowledged != 0 ? kAcknowledgedAlarm
+                                              : kActiveAlarm;
+  return origin == "Server" ? icon.fromServer : icon.fromStation;
+}
+
+std::int32_t GetProcessState(Flag first, Flag second, Flag third, Flag fourth) {
+  if (first == 0 && second == 0 && third == 0 && fourth == 0) return 4;
+  if (first == kTrue) return 3;
+  if (second == kTrue) return 1;
+  if (third == kTrue) return 2;
+  return 0;
+}
+
+bool IsFilesTransferLogError(std::int32_t kind, std::int32_t result) {
+  if (result < 91 || result > 94) return result != 0;
+  return kind != 89 && kind != 90;
+}
+
+bool IsCurrentProcessName(std::string_view key) {
+  return util::Identifiant(key, 1) == "LPROC" && !util::Identifiant(key, 2).empty() &&
+         !util::Identifiant(key, 3).empty() && !util::Identifiant(key, 4).empty() && util::Identifiant(key, 5).empty();
+}
+
+bool IsImportName(std::string_view key) {
+  return util::Identifiant(key, 1) == "LIMP" && !util::Identifiant(key, 2).empty() &&
+         !util::Identifiant(key, 3).empty() && util::Identifiant(key, 4).empty();
+}
+
+}  // namespace quorvel::list

@@ -1,0 +1,63 @@
+// What the control asks of its surroundings. A front end fulfils this port; so does a scenario that runs without one.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Dates.h"
+
+namespace quorvel {
+
+// Values of a mouse pointer as hosts know them.
+enum class MousePointer : std::int32_t { kDefault = 0, kHourglass = 11 };
+
+// The two named date formats of the regional settings.
+enum class DateFormat : std::int32_t { kGeneralDate = -1, kShortDate = 1 };
+
+// The family of the operating system, in the codes of `WindowAPI`.
+enum class SystemFamily : std::int32_t { kWin32s = 100, kWindows9x = 200, kWindowsNt = 500 };
+
+// All calls come from the user-interface thread. Texts are UTF-8. A call that cannot be done raises an Error.
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  // Shows `text` in a message box with an OK button and no icon; returns when it was closed.
+  virtual void ShowMessage(std::string_view text, std::string_view title) = 0;
+
+  // The pointer shown over the control and the screen.
+  virtual void SetMousePointer(MousePointer pointer) = 0;
+
+  // The clipboard, plain text.
+  virtual void ClearClipboard() = 0;
+  virtual void SetClipboardText(std::string_view text) = 0;
+
+  // Opens a file with the desktop's own program for it. Error 53 when it does not exist, 5 when no program opens it.
+  virtual void OpenFile(const std::filesystem::path& file) = 0;
+
+  // Writes `text` into the first panel of the host's status bar `stStatusBar`. Error 438 when the host has none.
+  virtual void SetHostStatusText(std::string_view text) = 0;
+
+  // The present local time.
+  virtual DateValue Now() const = 0;
+
+  // Date text by the regional settings, or in the fixed form where there are none. A date that cannot be shown gives
+  // the empty text; text that is no date gives nothing.
+  virtual std::string FormatDate(DateValue date, DateFormat format) const = 0;
+  virtual std::optional<DateValue> ParseDate(std::string_view text) const = 0;
+
+  // The current user's folder for temporary files, and the two changes that the error log makes there. Both raise 53
+  // when `file` does not exist and 75 when the system refuses.
+  virtual std::filesystem::path TemporaryFolder() const = 0;
+  virtual void DeleteFile(const std::filesystem::path& file) = 0;
+  virtual void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) = 0;
+
+  virtual SystemFamily OperatingSystem() const = 0;
+  // The interactive user, qualified by domain or host: "DOMAIN\user". Empty when the system does not say.
+  virtual std::string CurrentAccount() const = 0;
+};
+
+}  // namespace quorvel

@@ -1,0 +1,178 @@
+#include "tree/StateGroups.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <limits>
+
+#include "platform/Error.h"
+#include "tree/NodeKey.h"
+
+namespace quorvel::tree {
+namespace {
+
+using list::StateGroup;
+
+struct GroupLook {
+  StateGroup group;
+  std::string_view label;
+  std::string_view image;
+};
+
+// In the order in which the groups of a run are labelled.
+constexpr GroupLook kGroups[] = {
+    {StateGroup::kNotExecuted, list::kNotExecutedCaption, "User_NoExecute"},
+    {StateGroup::kInProgress, list::kInProgressCaption, "User_Inprogress"},
+    {StateGroup::kOk, list::kOkCaption, "User_Ok"},
+    {StateGroup::kNotOk, list::kNotOkCaption, "User_NoOk"},
+    {StateGroup::kUnknown, list::kUnknownCaption, "User_Undefined"},
+};
+
+const GroupLook& LookOf(StateGroup group) {
+  return *std::ranges::find(kGroups, group, &GroupLook::group);
+}
+
+struct WaitingImage {
+  std::string_view waitState;
+  std::string_view image;
+};
+
+constexpr std::string_view kWaitingPrerequisite = "Waiting prerequisite";
+constexpr WaitingImage kWaitingImages[] = {
+    {"Waiting com", "ProcessWaitingCom"},
+    {"Waiting station in com", "ProcessWaitingStation"},
+    {"Waiting station out com", "ProcessWaitingStation"},
+    {"Waiting execution in com", "ProcessWaitingExecution"},
+    {"Waiting execution out com", "ProcessWaitingExecution"},
+    {kWaitingPrerequisite, "ProcessWaitingPrerequisite"},
+};
+constexpr std::string_view kStarted = "ProcessStart";
+
+// count x 100 / total as a whole number, halves to the even neighbour.
+std::int64_t Percentage(std::int32_t total, std::int32_t count) {
+  const std::int64_t product = std::int64_t{count} * 100;
+  if (product > std::numeric_limits<std::int32_t>::max() || product < std::numeric_limits<std::int32_t>::min()) {
+    throw Error(SystemError::kOverflow, "Overflow");
+  }
+  return std::llrint(static_cast<double>(product) / total);
+}
+
+widgets::NodeId NodeOf(const widgets::TreeView& tree, std::string_view key) {
+  const widgets::NodeId node = tree.Find(key);
+  if (node == widgets::NodeId::kNone) {
+    throw Error(SystemError::kElementNotFound, "No node " + std::string(key));
+  }
+  return node;
+}
+
+void SetImageWhenDifferent(widgets::TreeView& tree, widgets::NodeId node, std::string_view image) {
+  if (tree.Image(node) != image) tree.SetImages(node, image, image, image);
+}
+
+}  // namespace
+
+std::int32_t StationCounts::Of(StateGroup group) const {
+  switch (group) {
+    case StateGroup::kOk:
+      return ok;
+    case StateGroup::kNotOk:
+      return notOk;
+    case StateGroup::kInProgress:
+      return inProgress;
+    case StateGroup::kNotExecuted:
+      return notExecuted;
+    case StateGroup::kUnknown:
+      break;
+  }
+  return unknown;
+}
+
+void StationCounts::Add(StateGroup group) {
+  ++total;
+  switch (group) {
+    case StateGroup::kOk:
+      ++ok;
+      break;
+    case StateGroup::kNotOk:
+      ++notOk;
+      break;
+    case StateGroup::kInProgress:
+      ++inProgress;
+      break;
+    case StateGroup::kNotExecuted:
+      ++notExecuted;
+      break;
+    case StateGroup::kUnknown:
+      ++unknown;
+      break;
+  }
+}
+
+std::string_view StateGroupLabel(StateGroup group) {
+  return LookOf(group).label;
+}
+
+std::string_view StateGroupImage(StateGroup group) {
+  return LookOf(group).image;
+}
+
+std::string strGetNumberAndPurcent(std::int32_t total, std::int32_t count) {
+  if (total <= 0) return {};
+  return std::to_string(Percentage(total, count)) + "% (" + std::to_string(count) + ")";
+}
+
+std::string StateGroupText(StateGroup group, std::int32_t total, std::int32_t count) {
+  // Callers pass a total of at least the count; one of 0 is a fault that must not pass as 0 %.
+  if (total == 0 && count > 0) throw Error(SystemError::kDivisionByZero, "Division by zero");
+  const std::int64_t percentage = total < 1 ? 0 : Percentage(total, count);
+  std::string text(StateGroupLabel(group));
+  text.append(" : ");
+  if (percentage < 10) text.push_back('0');
+  return text.append(std::to_string(percentage)).append("% (").append(std::to_string(count)).append(")");
+}
+
+std::string_view RunImage(const StationCounts& counts) {
+  if (counts.inProgress >= 1) return kStarted;
+  if (counts.notOk >= 1) return "ProcessNONOK";
+  if (counts.unknown > 0) return "ProcessUndefined";
+  return "ProcessOk";
+}
+
+void SetPurcentAndIconToTreeview(widgets::TreeView& tree, std::string_view key, const StationCounts& counts,
+                                 bool updateTexts) {
+  tree.InBatch([&] {
+    if (updateTexts) {
+      for (const GroupLook& look : kGroups) {
+        const std::int32_t count = counts.Of(look.group);
+        if (count <= 0) continue;
+        const std::string text = StateGroupText(look.group, counts.total, count);
+        tree.SetNodeText(NodeOf(tree, MakeKey(key, static_cast<std::int32_t>(look.group))), text);
+      }
+    }
+    SetImageWhenDifferent(tree, NodeOf(tree, key), RunImage(counts));
+  });
+}
+
+std::string_view GetProcessIconName(const StatePresence& present, std::string_view waitState) {
+  if (!present.inProgress) {
+    if (present.ok && !present.notOk) return "ProcessOk";
+    if (present.notOk && !present.ok) return "ProcessNONOK";
+    if (present.unknown) return "ProcessUndefined";
+    if (present.notExecuted || present.notOk || present.ok) return {};
+  }
+  const auto* const found = std::ranges::find(kWaitingImages, waitState, &WaitingImage::waitState);
+  return found == std::end(kWaitingImages) ? kStarted : found->image;
+}
+
+void SetIconToTreeview(widgets::TreeView& tree, std::string_view key, const StatePresence& present,
+                       std::string_view waitState) {
+  const std::string_view image =
+      GetProcessIconName(present, waitState == kWaitingPrerequisite ? std::string_view() : waitState);
+  if (!image.empty()) SetImageWhenDifferent(tree, NodeOf(tree, key), image);
+}
+
+std::int32_t CountItemsInTreeview(const widgets::TreeView& tree) {
+  return static_cast<std::int32_t>(tree.ChildCount(widgets::NodeId::kNone));
+}
+
+}  // namespace quorvel::tree

@@ -1,0 +1,120 @@
+#include "widgets/ListView.h"
+
+#include <algorithm>
+
+#include "platform/Error.h"
+
+namespace quorvel::widgets {
+
+void ListView::RequireRow(std::size_t row) const {
+  if (row >= Count()) throw Error(SystemError::kIndexOutOfRange, name() + " has no such row");
+}
+
+void ListView::SetHeaders(std::vector<ColumnHeader> headers) {
+  if (headers == headers_) return;
+  headers_ = std::move(headers);
+  pending_.headers = true;
+  Settle();
+}
+
+void ListView::SetHeaderWidth(std::size_t column, Twips width) {
+  if (column >= headers_.size()) throw Error(SystemError::kIndexOutOfRange, name() + " has no such column");
+  if (headers_[column].width == width) return;
+  headers_[column].width = width;
+  pending_.headers = true;
+  Settle();
+}
+
+void ListView::SetRows(std::shared_ptr<const RowSource> rows) {
+  rows_ = std::move(rows);
+  overlay_.clear();
+  selection_.Clear();
+  selectedItem_.reset();
+  pending_.reset = true;
+  Settle();
+}
+
+std::string ListView::Key(std::size_t row) const {
+  RequireRow(row);
+  std::string key;
+  rows_->AppendKey(row, key);
+  return key;
+}
+
+std::string ListView::Cell(std::size_t row, std::size_t column) const {
+  RequireRow(row);
+  std::string cell;
+  rows_->AppendCell(row, column, cell);
+  return cell;
+}
+
+std::string_view ListView::Icon(std::size_t row) const {
+  const auto found = overlay_.find(row);
+  if (found != overlay_.end() && found->second.icon) return *found->second.icon;
+  return rows_->Icon(row);
+}
+
+RowLook ListView::Look(std::size_t row) const {
+  const auto found = overlay_.find(row);
+  if (found != overlay_.end() && found->second.look) return *found->second.look;
+  return rows_->Look(row);
+}
+
+std::optional<std::size_t> ListView::RowOfKey(std::string_view key) const {
+  std::string each;
+  for (std::size_t row = 0; row < Count(); ++row) {
+    each.clear();
+    rows_->AppendKey(row, each);
+    if (each == key) return row;
+  }
+  return std::nullopt;
+}
+
+void ListView::SetIcon(std::size_t row, std::string_view icon) {
+  RequireRow(row);
+  if (Icon(row) == icon) return;
+  overlay_[row].icon = icon;
+  NoteRow(row);
+  Settle();
+}
+
+void ListView::SetLook(std::size_t row, RowLook look) {
+  RequireRow(row);
+  if (Look(row) == look) return;
+  overlay_[row].look = look;
+  NoteRow(row);
+  Settle();
+}
+
+void ListView::SetSelection(RowRanges selection, std::optional<std::size_t> item) {
+  if (!selection.empty()) RequireRow(selection.ranges().back().last - 1);
+  if (item) RequireRow(*item);
+  if (!item && !selection.empty()) item = selection.ranges().front().first;
+  if (selection == selection_ && item == selectedItem_) return;
+  selection_ = std::move(selection);
+  selectedItem_ = item;
+  pending_.selection = true;
+  Settle();
+}
+
+void ListView::NoteRow(std::size_t row) {
+  const RowRange range{row, row + 1};
+  pending_.rows = pending_.rows
+                      ? RowRange{std::min(pending_.rows->first, range.first), std::max(pending_.rows->last, range.last)}
+                      : range;
+}
+
+void ListView::Settle() {
+  if (batchDepth_ > 0) return;
+  const Pending told = std::exchange(pending_, {});
+  if (observer_ == nullptr) return;
+  if (told.reset) {
+    observer_->ListReset();
+    return;
+  }
+  if (told.headers) observer_->HeadersChanged();
+  if (told.rows) observer_->RowsChanged(*told.rows);
+  if (told.selection) observer_->ListSelectionChanged();
+}
+
+}  // namespace quorvel::widgets

@@ -1,0 +1,158 @@
+// The model of a list view with columns: rows made from columns of data when they are asked for.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "widgets/Control.h"
+#include "widgets/RowRanges.h"
+#include "widgets/TreeView.h"
+
+namespace quorvel::widgets {
+
+enum class Alignment : std::int32_t { kLeft = 0, kRight = 1, kCentre = 2 };
+enum class SortOrder : std::int32_t { kAscending = 0, kDescending = 1 };
+
+// What a column holds, which decides how it sorts.
+enum class ColumnTag : std::int16_t { kText = 0, kDates = 1, kNumbers = 2 };
+
+// Width of a column for which none is set.
+inline constexpr Twips kDefaultColumnWidth = 1440;
+
+struct ColumnHeader {
+  std::string caption;
+  Twips width = kDefaultColumnWidth;
+  Alignment alignment = Alignment::kLeft;
+  ColumnTag tag = ColumnTag::kText;
+  std::string icon = {};  // "" = none
+  friend bool operator==(const ColumnHeader&, const ColumnHeader&) = default;
+};
+
+struct RowLook {
+  SystemColour colour = SystemColour::kWindowText;
+  bool bold = false;
+  friend bool operator==(const RowLook&, const RowLook&) = default;
+};
+
+// Makes key, icon and cells of a row on request; holds the data that they are made from. Immutable while a list shows
+// it. Rows and columns are counted from 0 and always in range.
+class RowSource {
+ public:
+  virtual ~RowSource() = default;
+  virtual std::size_t Count() const = 0;
+  // Both append to `out`, so that text of many rows is gathered without a string for each.
+  virtual void AppendKey(std::size_t row, std::string& out) const = 0;
+  virtual void AppendCell(std::size_t row, std::size_t column, std::string& out) const = 0;
+  // Key into the image list, "" = none; lives as long as the source.
+  virtual std::string_view Icon(std::size_t row) const = 0;
+  virtual RowLook Look(std::size_t /*row*/) const { return {}; }
+};
+
+// Draws a list. Hears of a batch of changes once, after all of them were made.
+class ListObserver {
+ public:
+  virtual ~ListObserver() = default;
+  // Headers and rows are new, selection included.
+  virtual void ListReset() = 0;
+  virtual void HeadersChanged() = 0;
+  // Icon or look of rows within this range changed.
+  virtual void RowsChanged(RowRange rows) = 0;
+  virtual void ListSelectionChanged() = 0;
+};
+
+// Rows are counted from 0; a row that does not exist is error 9.
+class ListView : public Control {
+ public:
+  using Control::Control;
+
+  void ObserveList(ListObserver* observer) { observer_ = observer; }
+
+  // Runs `body`, whose changes are told once when the outermost batch ends, by an exception too.
+  template <class Body>
+  void InBatch(Body&& body) {
+    ++batchDepth_;
+    try {
+      std::forward<Body>(body)();
+    } catch (...) {
+      --batchDepth_;
+      Settle();
+      throw;
+    }
+    --batchDepth_;
+    Settle();
+  }
+
+  const std::vector<ColumnHeader>& headers() const { return headers_; }
+  void SetHeaders(std::vector<ColumnHeader> headers);
+  void SetHeaderWidth(std::size_t column, Twips width);
+
+  // Shows the rows of `rows` (null = none) in their order; selection, marks and changed icons of the rows before go.
+  void SetRows(std::shared_ptr<const RowSource> rows);
+  std::size_t Count() const { return rows_ ? rows_->Count() : 0; }
+
+  std::string Key(std::size_t row) const;
+  std::string Cell(std::size_t row, std::size_t column) const;
+  void AppendCell(std::size_t row, std::size_t column, std::string& out) const { rows_->AppendCell(row, column, out); }
+  // Valid until the list changes.
+  std::string_view Icon(std::size_t row) const;
+  RowLook Look(std::size_t row) const;
+  // The first row of that key.
+  std::optional<std::size_t> RowOfKey(std::string_view key) const;
+
+  // Single changes lie over the source's rows.
+  void SetIcon(std::size_t row, std::string_view icon);
+  void SetLook(std::size_t row, RowLook look);
+
+  // The selected rows, and among them the one that commands act on.
+  const RowRanges& Selection() const { return selection_; }
+  std::optional<std::size_t> SelectedItem() const { return selectedItem_; }
+  // Replaces the selection. The selected item is `item`, else the first selected row, else none.
+  void SetSelection(RowRanges selection, std::optional<std::size_t> item = std::nullopt);
+
+  // The sort key counts columns from 0. They say how the rows are sorted when sorting is on.
+  std::int32_t sortKey() const { return sortKey_; }
+  void SetSortKey(std::int32_t column) { sortKey_ = column; }
+  SortOrder sortOrder() const { return sortOrder_; }
+  void SetSortOrder(SortOrder order) { sortOrder_ = order; }
+  bool sorted() const { return sorted_; }
+  void SetSorted(bool sorted) { sorted_ = sorted; }
+
+ private:
+  struct Overlay {
+    std::optional<std::string> icon;
+    std::optional<RowLook> look;
+  };
+  struct Pending {
+    bool reset = false;
+    bool headers = false;
+    bool selection = false;
+    std::optional<RowRange> rows;
+  };
+
+  void RequireRow(std::size_t row) const;
+  void NoteRow(std::size_t row);
+  // Outside batches: tells what is pending.
+  void Settle();
+
+  std::vector<ColumnHeader> headers_;
+  std::shared_ptr<const RowSource> rows_;
+  std::unordered_map<std::size_t, Overlay> overlay_;
+  RowRanges selection_;
+  std::optional<std::size_t> selectedItem_;
+  std::int32_t sortKey_ = 0;
+  SortOrder sortOrder_ = SortOrder::kAscending;
+  bool sorted_ = false;
+
+  ListObserver* observer_ = nullptr;
+  int batchDepth_ = 0;
+  Pending pending_;
+};
+
+}  // namespace quorvel::widgets
