@@ -38,6 +38,8 @@ class ucProcessLog {
   // What there is to draw. Front ends write back what the user typed or chose, then call the handler.
   ProcessLogControls& controls() { return controls_; }
   const ProcessLogControls& controls() const { return controls_; }
+  // The identifiers of the node selected last, which the next view opens at.
+  const tree::NavigationContext& context() const { return context_; }
 
   // Properties.
   std::int32_t p_Connect() const { return f_lngConnect; }

@@ -13,7 +13,7 @@ struct ProcessLogRecords {
   Column<Flag> bProcessOnServer;   // the process is meant to run on the server
   Column<Flag> bProcessOnStation;  // ... on stations by themselves
   Column<DateValue> dtStartDate;   // of the run; of the station's part in GetProcessLogByTask
-  Column<DateValue> dtEndDate;
+  Column<DateValue> dtEndDate;     // the same; of the station's part in GetProcessLogByUser too
   Column<Flag> bRunOnStation;      // non-zero: the run is on a station; 0: on the server
   Column<std::int32_t> lngUserId;  // the station; 0 = run without a population, -1 = no station took part yet
   TextColumn strUserName;
@@ -73,8 +73,8 @@ struct ProcessLogDetail {
   Flag bInProgress = kFalse;
   Flag bResultOk = kFalse;
   Flag bOnServer = kFalse;
-  std::string strUserName;  // of the run's one station; empty when it had none or several
-  std::string strStationName;
+  std::string strUserName;     // name of the run's one station; empty when it had none or several
+  std::string strStationName;  // identifier of that station
 };
 
 class ProcessLog : public RecordSource {
@@ -84,8 +84,9 @@ class ProcessLog : public RecordSource {
   // Stations of runs, a row each: processes by name, runs newest first, the stations of a run together. A run in which
   // no station took part yet gives one row with station -1.
   // The period is dateFrom <= start of the run < dateTo. stateCode selects runs by their own outcome: 0 all, 1 OK,
-  // 2 NOT OK, 3 in progress, 5 unknown; 4 takes each process's newest run, whatever its date. A run that is selected
-  // comes with all its stations. userId, companyId: runs in which that station, a station of that company, took part.
+  // 2 NOT OK, 3 in progress, 5 unknown; 4 takes each process's newest run that the other filters leave, whatever its
+  // date. A run that is selected comes with all its stations. userId, companyId: runs in which that station, a station
+  // of that company, took part.
   // Status 1: the process does not exist; 2: the period is none (an end before its start, or no date).
   virtual void GetProcessLogs(std::int32_t connection, DateValue dateFrom, DateValue dateTo, std::int32_t stateCode,
                               std::int32_t processId, std::int32_t userId, std::int32_t companyId,

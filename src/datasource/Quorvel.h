@@ -43,7 +43,8 @@ class Quorvel : public RecordSource {
  public:
   static constexpr std::string_view kClassIdentifier = "clRecordHub.Quorvel";
 
-  // The tasks of a run for one station, in the order in which the process runs them. onStation tells where the run is.
+  // The tasks of a run for one station, in the order in which the process runs them, with those that ran once for all
+  // stations. onStation tells where the run is. userId -1: the tasks of all stations, station by station.
   // Status 1: there is no such run there.
   virtual void GetTaskRunsByProcessLog(std::int32_t connection, std::int32_t processLogId, bool onStation,
                                        std::int32_t userId, std::int32_t& status) = 0;

@@ -43,7 +43,8 @@ class StepLog : public RecordSource {
  public:
   static constexpr std::string_view kClassIdentifier = "clRecordHub.StepLog";
 
-  // The steps of a task in a run on a station, in the order in which they ran. Status 1: there is no such task run.
+  // The steps of a task in a run on a station, in the order in which they ran; a task that ran once for all stations
+  // counts for each. taskId, userId -1: of all tasks, all stations. Status 1: there is no such task run.
   virtual void GetStepLogByTaskRun(std::int32_t connection, std::int32_t taskId, std::int32_t processLogId,
                                    std::int32_t userId, std::int32_t& status) = 0;
   virtual void CloseStepLog(std::int32_t connection) = 0;

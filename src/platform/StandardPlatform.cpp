@@ -37,11 +37,15 @@ std::tm LocalTime(std::time_t time) {
 
 }  // namespace
 
-DateValue StandardPlatform::Now() const {
+DateValue LocalNow() {
   const std::tm local = LocalTime(std::chrono::system_clock::to_time_t(std::chrono::system_clock::now()));
   return DateFromCivil({local.tm_year + 1900, static_cast<unsigned>(local.tm_mon + 1),
                         static_cast<unsigned>(local.tm_mday), local.tm_hour, local.tm_min,
                         local.tm_sec < 60 ? local.tm_sec : 59});  // a leap second has no value of its own
+}
+
+DateValue StandardPlatform::Now() const {
+  return LocalNow();
 }
 
 std::string StandardPlatform::FormatDate(DateValue date, DateFormat format) const {

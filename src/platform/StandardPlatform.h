@@ -5,6 +5,9 @@
 
 namespace quorvel {
 
+// The present local time by the system's clock, in whole seconds.
+DateValue LocalNow();
+
 // What is left open here (message box, clipboard, shell, pointer, status bar) is what a toolkit adds.
 class StandardPlatform : public Platform {
  public:

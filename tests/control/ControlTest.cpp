@@ -1,0 +1,264 @@
+// The control as a host drives it, on record sources that answer what a test puts into them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "control/Layout.h"
+#include "control/Routing.h"
+#include "control/ucProcessLog.h"
+#include "support/FakeSources.h"
+#include "support/RecordingPlatform.h"
+#include "support/TreeText.h"
+
+namespace quorvel {
+namespace {
+
+using test::StationRows;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using widgets::NodeId;
+
+class ControlTest : public testing::Test {
+ protected:
+  ControlTest() {
+    StationRows rows;
+    rows.Station(12, 345, 7, StationRows::kOk).Station(12, 345, 8, StationRows::kNotOk);
+    rows.Station(30, 343, 7, StationRows::kOk);
+    history.processLogs = rows.Records();
+    history.processLogsCount = rows.count();
+    datasource::ProcessLogRecords& stations = history.stations;
+    stations = StationRows().Station(0, 0, 0, StationRows::kInProgress).Station(0, 0, 8, StationRows::kNotOk).Records();
+    stations.strUserName = test::MakeTexts({"", "Lyon 08"});
+    stations.strIdentifier = test::MakeTexts({"", "ST-8"});
+    stations.strWaitState = test::MakeTexts({"Waiting com", ""});
+    stations.strCompany = stations.strReport = test::MakeTexts({"", ""});
+    stations.dtEndDate = stations.dtStartDate;
+    history.stationsCount = 2;
+    control.p_Connect(3);
+    control.p_FromType(tlFromType::tlOneProcess);
+  }
+
+  NodeId Node(std::string_view key) { return control.controls().tvMotherList.Find(key); }
+  std::string Tree() { return test::TreeText(control.controls().tvMotherList); }
+  ProcessLogControls& controls() { return control.controls(); }
+  void ChooseState(std::string_view text) { controls().cboState.Select(*controls().cboState.RowOfText(text)); }
+
+  test::RecordingPlatform platform;
+  test::FakeHistory history;
+  test::FakeFactory factory{history};
+  ucProcessLog control{platform, factory};
+};
+
+TEST_F(ControlTest, BuildsTheTreeAndShowsTheFirstNodesChildren) {
+  control.m_GetLogByProcess();
+  const auto& tree = controls().tvMotherList;
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12");
+  EXPECT_EQ(control.p_ListCount(), 1);
+  EXPECT_EQ(controls().lvMotherList.Key(0), "LPROC|12|0|345");
+  EXPECT_EQ(controls().lvMotherList.headers().front().caption, "Processes");
+  EXPECT_EQ(controls().fraList.text(), "Processes (2)");
+  EXPECT_EQ(platform.status, "1 element");
+  EXPECT_EQ(platform.pointers.back(), MousePointer::kDefault);
+  EXPECT_THAT(history.calls,
+              testing::IsSupersetOf(
+                  {"create clRecordHub.Labels on \"\"", "GetLabel UseType", "create clRecordHub.ProcessLog on \"\"",
+                   "GetProcessLogs 2026-11-20 00:00:00 2026-11-21 00:00:00 4 -1", "CloseProcessLogs"}));
+}
+
+TEST_F(ControlTest, LoadsAGroupOnceAndListsItsStations) {
+  control.m_GetLogByProcess();
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2"));
+  EXPECT_EQ(platform.status, "2 elements");
+  EXPECT_EQ(controls().lvMotherList.Cell(0, 0), "Without population ()");
+  EXPECT_EQ(controls().lvMotherList.Icon(0), "User_WaitingCom");
+  history.calls.clear();
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  control.tvMotherList_Collapse(Node("LPROC|12|0|345|2"));
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  EXPECT_TRUE(history.calls.empty()) << "loaded before";
+  EXPECT_THAT(Tree(), HasSubstr("Lyon 08 (ST-8) [LPROC|12|0|345|2|8] User_NoOk\n"));
+}
+
+TEST_F(ControlTest, AFailedQueryIsShownOnceAndCanBeTriedAgain) {
+  control.m_GetLogByProcess();
+  history.failNumber = ComponentError(7);
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  ASSERT_EQ(platform.messages.size(), 1U);
+  EXPECT_THAT(platform.messages[0], HasSubstr("Quorvel: ucProcessLog.tvMotherList_Expand\r\n\tQuorvel: "
+                                              "ucProcessLog.lvMotherList_NodeState\r\n\tHub"));
+  EXPECT_THAT(platform.LogText(), HasSubstr("ErrorCode        : 7\r\n"));
+  EXPECT_EQ(platform.pointers.back(), MousePointer::kDefault);
+  EXPECT_FALSE(controls().tvMotherList.IsExpanded(Node("LPROC|12|0|345|2")));
+  history.failNumber = 0;
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  EXPECT_EQ(controls().tvMotherList.ChildCount(Node("LPROC|12|0|345|2")), 2U);
+  EXPECT_EQ(platform.messages.size(), 1U);
+}
+
+TEST_F(ControlTest, ABuilderCalledByTheHostRaisesAndRefreshShows) {
+  history.failNumber = 5;
+  try {
+    control.m_GetLogByProcess();
+    FAIL();
+  } catch (const Error& error) {
+    EXPECT_EQ(error.source(), "Quorvel: ucProcessLog.m_GetLogByProcess\r\n\tQuorvel: ucProcessLog.Init\r\n\tHub");
+  }
+  EXPECT_TRUE(platform.messages.empty());
+  control.cmdRefresh_Click();
+  EXPECT_EQ(platform.messages.size(), 1U);
+  EXPECT_EQ(platform.pointers.back(), MousePointer::kDefault);
+  history.failNumber = 0;
+  control.cmdRefresh_Click();
+  EXPECT_EQ(controls().tvMotherList.ChildCount(NodeId::kNone), 2U);
+}
+
+TEST_F(ControlTest, NothingToReadIsNoErrorAndIsReleased) {
+  history.status = 1;
+  control.m_GetLogByProcess();
+  EXPECT_EQ(Tree(), "");
+  EXPECT_EQ(controls().fraList.text(), "Processes (0)");
+  EXPECT_EQ(history.calls.back(), "CloseProcessLogs");
+  EXPECT_EQ(platform.status, "0 element");
+}
+
+TEST_F(ControlTest, ReadsTheDefaultPeriodOfItsRoleOncePerConnection) {
+  history.labels = {{"UseType", "STATION"}, {"STATION_LOGS_DISPLAY_PERIOD", "6"}, {"STATION_LOGS_DISPLAY_TYPE", "2"}};
+  ChooseState("All");
+  control.m_GetLogByProcess();
+  EXPECT_THAT(history.calls, testing::Contains("GetProcessLogs 2026-11-20 06:00:00 2026-11-20 12:00:00 0 -1"));
+  controls().txtDuring.SetText("3");
+  history.calls.clear();
+  control.cmdRefresh_Click();
+  EXPECT_THAT(history.calls,
+              ElementsAre("GetProcessLogs 2026-11-20 06:00:00 2026-11-20 09:00:00 0 -1", "CloseProcessLogs"))
+      << "what the user set stays";
+  history.labels["STATION_LOGS_DISPLAY_PERIOD"] = "1000";
+  history.labels["STATION_LOGS_DISPLAY_TYPE"] = "weeks";
+  control.p_Connect(4);
+  control.m_GetLogByProcess();
+  EXPECT_EQ(controls().txtDuring.text() + controls().cboDuringUnit.selectedText(), "1Days");
+}
+
+TEST_F(ControlTest, KeepsThePlaceAfterRefreshAndTellsOnceOfAMissingStatusBar) {
+  platform.hasStatusBar = false;
+  control.m_GetLogByProcess();
+  control.tvMotherList_NodeClick(Node("LPROC|30|1|343"));
+  control.cmdRefresh_Click();
+  const auto& tree = controls().tvMotherList;
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|30|1|343");
+  EXPECT_TRUE(tree.IsExpanded(Node("LPROC|30")));
+  EXPECT_EQ(platform.statusCalls, 1);
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_THAT(platform.LogText(), HasSubstr("Quorvel: ucProcessLog.MajStatusBarInfrmMain"));
+}
+
+TEST_F(ControlTest, ATabClickRestoresTheEquivalentNode) {
+  control.m_GetLogByProcess();
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345"));
+  control.sstProcessLog_Click();
+  const auto& tree = controls().tvMotherList;
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12") << "the run's key is no step's key";
+  control.p_FromType(tlFromType::tlOneAlarm);
+  control.sstProcessLog_Click();
+  EXPECT_EQ(Tree(), "");
+  control.p_FromType(tlFromType::tlOneUser);
+  control.sstProcessLog_Click();
+  ASSERT_EQ(platform.messages.size(), 1U);
+  EXPECT_THAT(platform.messages[0], HasSubstr("is not part of this version"));
+}
+
+TEST_F(ControlTest, ReleasesItsSourcesInOrder) {
+  {
+    ucProcessLog other(platform, factory);
+    other.m_GetLogByProcess();
+    history.calls.clear();
+  }
+  EXPECT_THAT(history.calls, ElementsAre("release ProcessLog", "release Labels"));
+}
+
+TEST_F(ControlTest, StateListsKeepTheChoiceOrTakeItsCounterpart) {
+  widgets::ComboBox& state = controls().cboState;
+  const auto on = [&](std::string_view tab) {
+    FillStateList(state, tab);
+    return state.selectedText();
+  };
+  EXPECT_EQ(state.selectedText(), "Last execution");
+  EXPECT_EQ(on("System"), "Information");
+  EXPECT_EQ(on("Processes"), "OK");
+  ChooseState("Unknown");
+  EXPECT_EQ(on("System"), "Before");
+  EXPECT_EQ(on("Users"), "Unknown");
+  EXPECT_EQ(on("Backups"), "All");
+  ChooseState("Error");
+  EXPECT_EQ(on("System"), "Error");
+  EXPECT_EQ(on("Connections"), "Error");
+  ChooseState("Last execution");
+  EXPECT_EQ(on("Processes"), "Last execution");
+  EXPECT_EQ(StateFilterOf("Before"), StateFilter::kUnknown);
+  EXPECT_FALSE(StateFilterOf("before"));
+}
+
+TEST_F(ControlTest, PeriodIsLimitedHiddenAndChecked) {
+  EXPECT_FALSE(controls().dtpDate.visible()) << "the last execution needs no period";
+  ChooseState("Error");
+  control.cboState_Click();
+  EXPECT_TRUE(controls().dtpDate.visible());
+  controls().txtDuring.SetText("150");
+  control.cboDuringUnit_Click();
+  EXPECT_EQ(controls().txtDuring.text(), "99");
+  controls().txtDuring.SetText("99999999999999");
+  control.cboDuringUnit_Click();
+  EXPECT_EQ(controls().txtDuring.text(), "99");
+  controls().txtDuring.SetText("soon");
+  control.cboDuringUnit_Click();
+  EXPECT_TRUE(platform.messages.empty());
+  controls().updDuring.SetValue(4);
+  control.updDuring_Change();
+  EXPECT_EQ(controls().txtDuring.text(), "4");
+  EXPECT_EQ(ReadOptions(controls(), StateFilter::kAll).groupBy, "0123");
+  control.m_GetLogByProcess();
+  controls().txtDuring.SetText("soon");
+  EXPECT_THROW(control.m_GetLogByProcess(), Error);
+}
+
+TEST_F(ControlTest, LayoutKeepsItsBounds) {
+  float width = 800;
+  control.SizeControls(width);
+  EXPECT_EQ(width, 1500);
+  EXPECT_EQ(controls().tvMotherList.bounds().width, 1500);
+  control.UserControl_Resize(15000, 9000);
+  const auto barAfterDragTo = [&](widgets::Twips x) {
+    control.imgSplitter_MouseDown();
+    control.imgSplitter_MouseMove(x - controls().imgSplitter.bounds().left);
+    const widgets::Twips left = controls().picSplitter.bounds().left;
+    control.imgSplitter_MouseUp();
+    return left;
+  };
+  EXPECT_EQ(barAfterDragTo(500), 2000);
+  EXPECT_EQ(barAfterDragTo(5000), 5000);
+  EXPECT_EQ(controls().tvMotherList.bounds().width, 5000);
+  EXPECT_EQ(controls().lvMotherList.bounds().right(), controls().fraList.bounds().width);
+  control.imgSplitter_MouseDown();
+  control.imgSplitter_MouseUp();
+  EXPECT_EQ(controls().tvMotherList.bounds().width, 5000) << "a click alone moves nothing";
+  EXPECT_EQ(barAfterDragTo(99999), 13000);
+  width = 14200;
+  control.SizeControls(width);
+  EXPECT_FALSE(controls().imgSplitter.visible()) << "no room beside the tree: the list lies below it";
+  EXPECT_GE(controls().lvMotherList.bounds().top, controls().tvMotherList.bounds().bottom());
+}
+
+TEST_F(ControlTest, ASmallControlScrolls) {
+  control.UserControl_Resize(15000, 9000);
+  EXPECT_FALSE(controls().HScroll.visible() || controls().VScroll.visible() || controls().fraCorner.visible());
+  control.UserControl_Resize(5000, 3000);
+  EXPECT_TRUE(controls().HScroll.visible() && controls().VScroll.visible() && controls().fraCorner.visible());
+  const widgets::Twips left = controls().fraProcessLog.bounds().left;
+  controls().HScroll.SetValue(600);
+  control.HScroll_Change();
+  EXPECT_EQ(controls().fraProcessLog.bounds().left, left - 600);
+  control.UserControl_Resize(15000, 9000);
+  EXPECT_EQ(controls().fraProcessLog.bounds().left, left);
+}
+
+}  // namespace
+}  // namespace quorvel

@@ -1,0 +1,113 @@
+// Columns, the texts in them, and the contract as data.
+#include "datasource/Column.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+#include "datasource/Contract.h"
+#include "datasource/ProcessLog.h"
+#include "datasource/Utf8.h"
+
+namespace quorvel::datasource {
+namespace {
+
+TEST(ColumnTest, EqualTextsAreStoredOnce) {
+  TextColumnBuilder builder;
+  constexpr std::size_t kRows = 1000;
+  constexpr std::size_t kDistinct = 300;  // more than the hash table begins with
+  for (std::size_t row = 0; row < kRows; ++row) builder.Append("text " + std::to_string(row % kDistinct));
+  builder.Append("");
+  builder.Repeat();
+  const TextColumn column = builder.Take();
+  ASSERT_EQ(column.size(), kRows + 2);
+  for (std::size_t row = 0; row < kRows; ++row) {
+    EXPECT_EQ(column[row], "text " + std::to_string(row % kDistinct));
+    EXPECT_EQ(column.rows()[row], column.rows()[row % kDistinct]);
+  }
+  EXPECT_EQ(column[kRows], "");
+  EXPECT_EQ(column[kRows + 1], "");
+  const std::set<std::uint32_t> distinct(column.rows().begin(), column.rows().end());
+  EXPECT_EQ(distinct.size(), kDistinct + 1);
+
+  // The builder starts again and leaves the column that it gave alone.
+  builder.Append("other");
+  EXPECT_EQ(builder.Take()[0], "other");
+  EXPECT_EQ(column[0], "text 0");
+}
+
+TEST(ColumnTest, CopiesShareTheBlockAndOutliveItsMaker) {
+  Column<std::int32_t> copy;
+  EXPECT_EQ(copy.size(), 0U);
+  EXPECT_TRUE(copy.values().empty());
+  {
+    const Column<std::int32_t> made({1, 2, 3});
+    copy = made;
+    EXPECT_EQ(copy.values().data(), made.values().data());
+  }
+  EXPECT_EQ(copy[2], 3);
+  EXPECT_EQ(TextColumn().size(), 0U);
+}
+
+TEST(Utf8Test, EachByteThatDoesNotBelongIsReplaced) {
+  struct Case {
+    std::string text, shown;
+  };
+  const std::string bad = "\uFFFD";
+  const Case cases[] = {
+      {"", ""},
+      {"Été 日本 😀", "Été 日本 😀"},
+      {"a\xFF"
+       "b",
+       "a" + bad + "b"},
+      {"12345678\xC3", "12345678" + bad},           // cut off
+      {"\xC0\xAF", bad + bad},                      // overlong
+      {"\xE0\x9F\xBF", bad + bad + bad},            // overlong
+      {"\xED\xA0\x80", bad + bad + bad},            // surrogate
+      {"\xF4\x90\x80\x80", bad + bad + bad + bad},  // above U+10FFFF
+      {"\xE6\x97\xE6\x97\xA5", bad + bad + "日"},   // begun twice
+      {std::string("a\0b", 3), std::string("a\0b", 3)},
+  };
+  for (const auto& [text, shown] : cases) {
+    EXPECT_EQ(ReplaceInvalidUtf8(text), shown);
+    EXPECT_EQ(IsValidUtf8(text), text == shown);
+    TextColumnBuilder builder;
+    builder.Append(text);
+    builder.Append(text);
+    const TextColumn column = builder.Take();
+    EXPECT_EQ(column[0], shown);
+    EXPECT_EQ(column.rows()[0], column.rows()[1]);
+  }
+}
+
+TEST(ContractTest, RequireColumnsNamesTheColumnThatIsShort) {
+  ProcessLogRecords records;
+  records.lngProcessLogId = Column<std::int32_t>({1, 2});
+  try {
+    RequireColumns("GetProcessLogsByName", records, 2);
+    FAIL();
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), static_cast<std::int32_t>(SystemError::kIndexOutOfRange));
+    EXPECT_EQ(error.description(), "GetProcessLogsByName: column lngProcessId holds 0 of 2 rows");
+  }
+  EXPECT_NO_THROW(RequireColumns("GetProcessLogsByName", ProcessLogRecords(), 0));
+  EXPECT_NO_THROW(RequireColumns("GetProcessLogDetail", records, 2)) << "promises no column";
+  EXPECT_THROW(RequireColumns("NoQuery", records, 0), Error);
+}
+
+TEST(ContractTest, EachPromisedColumnIsAColumnOfItsClass) {
+  const ProcessLogRecords records;
+  std::set<std::string_view> names;
+  ProcessLogRecords::ForEachColumn(records, [&](std::string_view name, const auto&) { names.insert(name); });
+  std::set<std::string_view> queries;
+  for (const QueryContract& query : Queries()) {
+    EXPECT_TRUE(queries.insert(query.query).second) << query.query << " stands twice";
+    if (query.classIdentifier != ProcessLog::kClassIdentifier) continue;
+    for (const std::string_view column : query.columns) EXPECT_TRUE(names.contains(column)) << column;
+  }
+  EXPECT_EQ(queries.size(), 22U);
+}
+
+}  // namespace
+}  // namespace quorvel::datasource

@@ -1,0 +1,54 @@
+// A platform for tests: fixed clock, its own temporary folder, everything asked of it on record.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "platform/Error.h"
+#include "platform/StandardPlatform.h"
+#include "support/TemporaryFolder.h"
+
+namespace quorvel::test {
+
+class RecordingPlatform : public StandardPlatform {
+ public:
+  void ShowMessage(std::string_view text, std::string_view title) override {
+    messages.push_back(std::string(title) + ": " + std::string(text));
+  }
+  void SetMousePointer(MousePointer pointer) override { pointers.push_back(pointer); }
+  void ClearClipboard() override { clipboard.clear(); }
+  void SetClipboardText(std::string_view text) override { clipboard = text; }
+  void OpenFile(const std::filesystem::path& /*file*/) override {}
+  void SetHostStatusText(std::string_view text) override {
+    ++statusCalls;
+    if (!hasStatusBar) throw Error(SystemError::kUnsupportedMember, "No stStatusBar");
+    status = text;
+  }
+  DateValue Now() const override { return DateFromCivil({2026, 11, 20, 12, 0, 0}); }
+  std::filesystem::path TemporaryFolder() const override { return folder; }
+  void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) override {
+    if (renameFails) throw Error(SystemError::kPathAccess, "Rename refused");
+    StandardPlatform::RenameFile(file, newName);
+  }
+
+  // The error log as it stands.
+  std::string LogText() const {
+    std::ifstream in(folder / "Ostrana.log", std::ios::binary);
+    return (std::ostringstream() << in.rdbuf()).str();
+  }
+
+  test::TemporaryFolder temporary;
+  const std::filesystem::path& folder = temporary.path();
+  std::vector<std::string> messages;
+  std::vector<MousePointer> pointers;
+  std::string clipboard;
+  std::string status;
+  int statusCalls = 0;
+  bool hasStatusBar = true;
+  bool renameFails = false;
+};
+
+}  // namespace quorvel::test
