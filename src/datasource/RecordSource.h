@@ -49,7 +49,7 @@ std::unique_ptr<Source> CreateRecordSource(RecordSourceFactory& factory, std::st
     throw Error(SystemError::kCannotCreateComponent,
                 "The component does not answer as " + std::string(Source::kClassIdentifier));
   }
-  created.release();
+  static_cast<void>(created.release());  // owned as a Source from here on
   return std::unique_ptr<Source>(source);
 }
 

@@ -109,7 +109,7 @@ constexpr IconBadge kErrorBadge{kErrorShapes, kBadge, kBadge, kCut};
 constexpr IconBadge kUnknownBadge{kUnknownShapes, kBadge, kBadge, kCut};
 constexpr IconBadge kProgressBadge{kProgressShapes, kBadge, kBadge, kCut};
 constexpr IconBadge kNotExecutedBadge{kNotExecutedShapes, kBadge, kBadge, kCut};
-constexpr IconBadge kStationBadge{kStationShapes, kBadge, kBadge, kCut};
+constexpr IconBadge kStationBadge{kStationShapes, kBadge, kBadge, kCut, true};
 constexpr IconBadge kWaitingComBadge{kWaitingComShapes, kBadge, kBadge, kCut};
 constexpr IconBadge kWaitingStationBadge{kWaitingStationShapes, kBadge, kBadge, kCut};
 constexpr IconBadge kWaitingExecutionBadge{kWaitingExecutionShapes, kBadge, kBadge, kCut};

@@ -64,6 +64,7 @@ struct IconBadge {
   float centreX = 0;
   float centreY = 0;
   float cutRadius = 0;
+  bool inBaseColours = false;  // else it has colours of its own, which a base in one colour must not swallow
 };
 
 // A picture: one base and up to two badges over it.

@@ -14,14 +14,14 @@ NodeId TreeView::Add(NodeId parent, std::string_view key, std::string_view text,
   const TextArena::Ref keyRef = texts_.Append(key);
   const TextArena::Ref textRef = texts_.Append(text);
   const NodeId id = NewNode();
-  std::vector<NodeId>& siblings = parent == NodeId::kNone ? roots_ : At(parent).children;
+  ChildList& siblings = parent == NodeId::kNone ? roots_ : At(parent).children;
   Node& node = At(id);
   node.key = keyRef;
   node.text = textRef;
   node.parent = parent;
-  node.row = static_cast<std::uint32_t>(siblings.size());
+  node.row = siblings.count;
   node.image = node.expandedImage = node.selectedImage = number;
-  siblings.push_back(id);
+  AppendChild(siblings, id);
   if (keysIndexed_) IndexKey(id);
   NoteInserted(parent, node.row);
   Settle();
@@ -32,12 +32,33 @@ NodeId TreeView::NewNode() {
   if (!free_.empty()) {
     const NodeId id = free_.back();
     free_.pop_back();
+    const ChildList emptied{At(id).children.start, 0, At(id).children.capacity};
     At(id) = Node{};
+    At(id).children = emptied;
     return id;
   }
   if (nodes_.size() >= static_cast<std::size_t>(NodeId::kNone)) throw std::length_error("Too many nodes");
   nodes_.emplace_back();
   return static_cast<NodeId>(nodes_.size() - 1);
+}
+
+void TreeView::AppendChild(ChildList& list, NodeId child) {
+  if (list.count == list.capacity) {
+    constexpr std::uint32_t kFirstCapacity = 4;
+    const std::uint32_t capacity = std::max(kFirstCapacity, 2 * list.capacity);
+    const std::size_t end = childSlots_.size();
+    if (capacity <= list.capacity || end + capacity > std::numeric_limits<std::uint32_t>::max()) {
+      throw std::length_error("Too many nodes");
+    }
+    const bool isLast = list.start + list.capacity == end;
+    childSlots_.resize(isLast ? end - list.capacity + capacity : end + capacity, NodeId::kNone);
+    if (!isLast) {
+      std::copy_n(childSlots_.begin() + list.start, list.count, childSlots_.begin() + static_cast<std::ptrdiff_t>(end));
+      list.start = static_cast<std::uint32_t>(end);
+    }
+    list.capacity = capacity;
+  }
+  childSlots_[list.start + list.count++] = child;
 }
 
 std::uint16_t TreeView::ImageNumber(std::string_view image) {
@@ -61,10 +82,11 @@ void TreeView::SetPlaceholder(NodeId node, bool placeholder) {
 
 void TreeView::RemoveChildren(NodeId node) {
   if (node == NodeId::kNone) return Clear();
-  if (At(node).children.empty()) return;
+  if (At(node).children.count == 0) return;
   InBatch([&] {
     SetExpanded(node, false);
-    std::vector<NodeId> children = std::exchange(At(node).children, {});
+    std::vector<NodeId> children(Children(node).begin(), Children(node).end());
+    At(node).children.count = 0;
     for (const NodeId child : children) Remove(child);
     NoteRemoved(node, std::move(children));
     MoveTextsWhenWorth();
@@ -76,7 +98,7 @@ void TreeView::Remove(NodeId top) {
   while (!open.empty()) {
     const NodeId node = open.back();
     open.pop_back();
-    open.insert(open.end(), At(node).children.begin(), At(node).children.end());
+    open.insert(open.end(), Children(node).begin(), Children(node).end());
     if (keysIndexed_) UnindexKey(node);
     At(node).removed = true;
     texts_.Release(At(node).key);
@@ -88,7 +110,8 @@ void TreeView::Remove(NodeId top) {
 
 void TreeView::Clear() {
   nodes_.clear();
-  roots_.clear();
+  roots_ = {};
+  childSlots_.clear();
   free_.clear();
   limbo_.clear();
   texts_.Clear();

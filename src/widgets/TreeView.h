@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <span>
 #include <string>
@@ -80,14 +81,15 @@ class TreeView : public Control {
   std::size_t ChildCount(NodeId parent) const { return Children(parent).size(); }
   NodeId Child(NodeId parent, std::size_t row) const { return Children(parent)[row]; }
   std::span<const NodeId> Children(NodeId parent) const {
-    return parent == NodeId::kNone ? roots_ : At(parent).children;
+    const ChildList& list = parent == NodeId::kNone ? roots_ : At(parent).children;
+    return std::span(childSlots_).subspan(list.start, list.count);
   }
   // kNone for a root.
   NodeId Parent(NodeId node) const { return At(node).parent; }
   std::size_t RowOf(NodeId node) const { return At(node).row; }
   bool HasPlaceholder(NodeId node) const { return At(node).placeholder; }
   // Whether the node can be opened: it has children, or a placeholder for children that are not loaded yet.
-  bool IsExpandable(NodeId node) const { return At(node).placeholder || !At(node).children.empty(); }
+  bool IsExpandable(NodeId node) const { return At(node).placeholder || At(node).children.count > 0; }
 
   // The newest node of that key, kNone when there is none.
   NodeId Find(std::string_view key) const;
@@ -115,8 +117,16 @@ class TreeView : public Control {
   void Select(NodeId node);
 
  private:
+  // The children of a node: a stretch of childSlots_, which moves to the end when it outgrows its place. A list for
+  // each node of its own would cost an allocation for each.
+  struct ChildList {
+    std::uint32_t start = 0;
+    std::uint32_t count = 0;
+    std::uint32_t capacity = 0;
+  };
+
   struct Node {
-    std::vector<NodeId> children;
+    ChildList children;
     TextArena::Ref key;
     TextArena::Ref text;
     NodeId parent = NodeId::kNone;
@@ -170,6 +180,7 @@ class TreeView : public Control {
   Node& At(NodeId node) { return nodes_[static_cast<std::size_t>(node)]; }
 
   NodeId NewNode();
+  void AppendChild(ChildList& list, NodeId child);
   std::uint16_t ImageNumber(std::string_view image);
   void IndexKey(NodeId node) const;
   void UnindexKey(NodeId node);
@@ -183,8 +194,9 @@ class TreeView : public Control {
   void Settle();
   void Tell();
 
-  std::vector<Node> nodes_;
-  std::vector<NodeId> roots_;
+  std::deque<Node> nodes_;  // grows without moving what is there
+  ChildList roots_;
+  std::vector<NodeId> childSlots_;
   std::vector<NodeId> free_;   // slots to use again
   std::vector<NodeId> limbo_;  // removed nodes that the observer has not heard of yet
   TextArena texts_;

@@ -1,0 +1,55 @@
+// Medians of repeated runs, and a table of ratios against their limits.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <string_view>
+#include <vector>
+
+namespace quorvel::bench {
+
+inline constexpr int kRuns = 5;
+
+// Seconds that `body` takes.
+template <class Body>
+double Seconds(Body&& body) {
+  const auto start = std::chrono::steady_clock::now();
+  body();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double Median(std::vector<double> values) {
+  std::ranges::sort(values);
+  return values[values.size() / 2];
+}
+
+// Two ways of one job, timed in turn so that a drift of the machine meets both.
+struct Comparison {
+  double measured = 0;  // medians, in seconds
+  double base = 0;
+};
+
+template <class Measured, class Base>
+Comparison Compare(Measured&& measured, Base&& base) {
+  std::vector<double> measuredSeconds;
+  std::vector<double> baseSeconds;
+  measured();  // warm-up: fonts, icons, page tables
+  base();
+  for (int run = 0; run < kRuns; ++run) {
+    baseSeconds.push_back(base());
+    measuredSeconds.push_back(measured());
+  }
+  return {Median(measuredSeconds), Median(baseSeconds)};
+}
+
+// Prints a row of the table; tells whether the ratio keeps its limit.
+inline bool Report(std::string_view what, const Comparison& comparison, double limit) {
+  const double ratio = comparison.measured / comparison.base;
+  const bool kept = ratio <= limit;
+  std::printf("| %-58.*s | %8.1f ms | %8.1f ms | %5.2f | %5.2f | %s |\n", static_cast<int>(what.size()), what.data(),
+              comparison.measured * 1e3, comparison.base * 1e3, ratio, limit, kept ? "kept" : "EXCEEDED");
+  return kept;
+}
+
+}  // namespace quorvel::bench

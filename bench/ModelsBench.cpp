@@ -1,0 +1,209 @@
+// The widget models with the Qt front end attached, from the first value to the painted picture, against filling plain
+// vectors with the same values. Off-screen: QT_QPA_PLATFORM=offscreen.
+#include <QApplication>
+#include <QEvent>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Measure.h"
+#include "datasource/Column.h"
+#include "platform/Dates.h"
+#include "qt/ListPane.h"
+#include "qt/TreePane.h"
+#include "widgets/ListView.h"
+#include "widgets/TreeView.h"
+
+namespace {
+
+using namespace quorvel;
+using bench::Seconds;
+using widgets::NodeId;
+
+constexpr int kRows = 1'000'000;
+constexpr int kStations = 3'000;
+constexpr int kRunsOfTree = 25'000;
+constexpr int kGroupsOfRun = 4;  // with its run: 125,000 nodes
+constexpr double kLimit = 1.5;
+
+// The values, made on the fly by both sides alike.
+std::string StationName(int row) {
+  return "Lyon Part-Dieu " + std::to_string(row % kStations);
+}
+std::string_view StatusName(int row) {
+  return row % 150 == 0 ? "Not Ok" : "Ok";
+}
+double StartDate(int row) {
+  return 46346.0 + row * 1e-5;
+}
+
+// Counts how often a pane paints.
+class PaintCounter : public QObject {
+ public:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+  int count = 0;
+};
+
+void PumpUntilPainted(const PaintCounter& paints) {
+  while (paints.count == 0) QApplication::processEvents();
+  QApplication::processEvents();
+}
+
+// A pane on the screen, its first empty painting done.
+template <class Pane>
+void ShowEmpty(Pane& pane, PaintCounter& paints) {
+  pane.resize(900, 700);
+  pane.viewport()->installEventFilter(&paints);
+  pane.show();
+  PumpUntilPainted(paints);
+  paints.count = 0;
+}
+
+int g_repaints = 0;  // most repaints that one fill cost
+
+void NoteRepaints(const PaintCounter& paints) {
+  g_repaints = std::max(g_repaints, paints.count);
+}
+
+class StationRows : public widgets::RowSource {
+ public:
+  StationRows(datasource::Column<std::int32_t> ids, datasource::TextColumn names, datasource::TextColumn states,
+              datasource::Column<double> dates)
+      : ids_(std::move(ids)), names_(std::move(names)), states_(std::move(states)), dates_(std::move(dates)) {}
+  std::size_t Count() const override { return ids_.size(); }
+  void AppendKey(std::size_t row, std::string& out) const override { out += std::to_string(ids_[row]) + "|LPROC"; }
+  void AppendCell(std::size_t row, std::size_t column, std::string& out) const override {
+    if (column == 0) out += names_[row];
+    if (column == 1) out += FormatFixedDateTime(dates_[row]);
+    if (column == 2) out += states_[row];
+  }
+  std::string_view Icon(std::size_t row) const override { return states_[row] == "Ok" ? "User_Ok" : "User_NoOk"; }
+
+ private:
+  datasource::Column<std::int32_t> ids_;
+  datasource::TextColumn names_;
+  datasource::TextColumn states_;
+  datasource::Column<double> dates_;
+};
+
+double FillListModel() {
+  widgets::ListView list("lvMotherList");
+  qt::ListPane pane(list);
+  PaintCounter paints;
+  ShowEmpty(pane, paints);
+  const double seconds = Seconds([&] {
+    std::vector<std::int32_t> ids;
+    std::vector<double> dates;
+    datasource::TextColumnBuilder names;
+    datasource::TextColumnBuilder states;
+    ids.reserve(kRows);
+    dates.reserve(kRows);
+    names.Reserve(kRows);
+    states.Reserve(kRows);
+    for (int row = 0; row < kRows; ++row) {
+      ids.push_back(row);
+      names.Append(StationName(row));
+      states.Append(StatusName(row));
+      dates.push_back(StartDate(row));
+    }
+    list.InBatch([&] {
+      list.SetHeaders({{.caption = "Name"}, {.caption = "Start", .width = 2250}, {.caption = "Status"}});
+      list.SetRows(std::make_shared<StationRows>(datasource::Column(std::move(ids)), names.Take(), states.Take(),
+                                                 datasource::Column(std::move(dates))));
+    });
+    PumpUntilPainted(paints);
+  });
+  NoteRepaints(paints);
+  return seconds;
+}
+
+double FillListVectors() {
+  struct {
+    std::vector<std::int32_t> ids;
+    std::vector<double> dates;
+    std::vector<std::string> names;
+    std::vector<std::string> states;
+  } plain;
+  return Seconds([&] {
+    plain.ids.reserve(kRows);
+    plain.dates.reserve(kRows);
+    plain.names.reserve(kRows);
+    plain.states.reserve(kRows);
+    for (int row = 0; row < kRows; ++row) {
+      plain.ids.push_back(row);
+      plain.names.push_back(StationName(row));
+      plain.states.emplace_back(StatusName(row));
+      plain.dates.push_back(StartDate(row));
+    }
+  });
+}
+
+// Calls add(parent, key, text, image) for every node, parents first; add returns what stands for the node as a parent.
+template <class Parent, class Add>
+void ForEachNode(Parent root, Add add) {
+  for (int run = 0; run < kRunsOfTree; ++run) {
+    const std::string key = "LPROC|12|0|" + std::to_string(run);
+    const Parent node = add(root, key, "2026-11-20 23:05:07 (Batch No." + std::to_string(run) + ")", "ProcessOk");
+    for (int group = 1; group <= kGroupsOfRun; ++group) {
+      add(node, key + "|" + std::to_string(group), "In progress : 05% (" + std::to_string(run) + ")",
+          "User_Inprogress");
+    }
+  }
+}
+
+double FillTreeModel() {
+  widgets::TreeView tree("tvMotherList");
+  qt::TreePane pane(tree, {});
+  PaintCounter paints;
+  ShowEmpty(pane, paints);
+  const double seconds = Seconds([&] {
+    tree.InBatch([&] {
+      tree.Clear();
+      ForEachNode(NodeId::kNone, [&](NodeId parent, const std::string& key, const std::string& text,
+                                     const char* image) { return tree.Add(parent, key, text, image); });
+    });
+    PumpUntilPainted(paints);
+  });
+  NoteRepaints(paints);
+  return seconds;
+}
+
+double FillTreeVectors() {
+  struct {
+    std::vector<int> parents;
+    std::vector<std::string> keys;
+    std::vector<std::string> texts;
+    std::vector<std::string> images;
+  } plain;
+  constexpr std::size_t kNodes = std::size_t{kRunsOfTree} * (1 + kGroupsOfRun);
+  return Seconds([&] {
+    plain.parents.reserve(kNodes);
+    plain.keys.reserve(kNodes);
+    plain.texts.reserve(kNodes);
+    plain.images.reserve(kNodes);
+    ForEachNode(-1, [&](int parent, const std::string& key, const std::string& text, const char* image) {
+      plain.parents.push_back(parent);
+      plain.keys.push_back(key);
+      plain.texts.push_back(text);
+      plain.images.emplace_back(image);
+      return static_cast<int>(plain.keys.size()) - 1;
+    });
+  });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  std::printf("| %-58s | measured    | base        | ratio | limit |      |\n", "medians of 5");
+  bool kept = bench::Report("1,000,000 rows into the list, painted; base: vectors",
+                            bench::Compare(FillListModel, FillListVectors), kLimit);
+  kept &= bench::Report("125,000 nodes into the tree, painted; base: vectors",
+                        bench::Compare(FillTreeModel, FillTreeVectors), kLimit);
+  std::printf("repaints per fill: %d (limit 1)\n", g_repaints);
+  return kept && g_repaints == 1 ? 0 : 1;
+}
