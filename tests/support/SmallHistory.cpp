@@ -22,7 +22,7 @@ INSERT INTO station_run (process_run_id, station_id, station_name, identifier, c
                          in_progress, ok, not_ok, unknown, executed, wait_state) VALUES
   (100, 1, 'alpha', 'A-1', 'Acme', 'done', 46345.25, 46345.375, 0, -1, 0, 0, -1, ''),
   (100, 2, 'Beta', 'B-2', 'Acme', 'disk full', 46345.25, 46345.5, 0, 0, -1, 0, -1, ''),
-  (100, 3, 'gamma', 'G-3', 'Bolt', CAST(x'6261FF64' AS TEXT), 46345.25, 46345.5, 0, -1, -1, 0, -1, ''),
+  (100, 3, 'aardvark', 'G-3', 'Bolt', CAST(x'6261FF64' AS TEXT), 46345.25, 46345.5, 0, -1, -1, 0, -1, ''),
   (100, 4, 'Été', '', '', '', 0, 0, 0, 0, 0, -1, -1, ''),
   (101, 1, 'alpha', 'A-1', 'Acme', '', 46346.25, 0, -1, 0, 0, 0, 0, 'Waiting com'),
   (101, 2, 'Beta', 'B-2', 'Acme', '', 0, 0, 0, 0, 0, 0, 0, ''),

@@ -17,7 +17,7 @@ inline constexpr double kEarly = 46000;
 inline constexpr double kLate = 47000;
 
 inline constexpr std::int32_t kAcme = 1, kBolt = 2;
-// Ordered by name: 0 (no population), alpha, Beta, gamma, Été.
+// Ordered by name: 0 (no population), alpha, Beta, gamma ("aardvark" at the time of kDeployWithAll), Été.
 inline constexpr std::int32_t kAlpha = 1, kBeta = 2, kGamma = 3, kEte = 4;
 // Ordered by name: Archive|x, backup, Deploy, Empty.
 inline constexpr std::int32_t kBackup = 10, kDeploy = 11, kEmpty = 12, kArchive = 13;
