@@ -1,0 +1,212 @@
+#include "tools/HistoryWriter.h"
+
+#include <initializer_list>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "hub/RecordHub.h"
+#include "hub/sqlite/Database.h"
+#include "platform/Error.h"
+
+namespace quorvel::tools {
+namespace {
+
+// The file is thrown away when anything goes wrong, so nothing is spent on being able to go back.
+constexpr const char* kBulkSettings =
+    "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA cache_size = -262144;"
+    "PRAGMA temp_store = MEMORY; BEGIN;";
+
+// One for each column of the widest table.
+constexpr const char* kParameters[] = {"?1",  "?2",  "?3",  "?4",  "?5",  "?6",  "?7",  "?8",  "?9",
+                                       "?10", "?11", "?12", "?13", "?14", "?15", "?16", "?17", "?18"};
+
+std::string InsertSql(std::string_view table, std::initializer_list<std::string_view> columns) {
+  std::string names;
+  std::string values;
+  const char* const* parameter = kParameters;
+  for (const std::string_view column : columns) {
+    const char* const comma = names.empty() ? "" : ", ";
+    names.append(comma).append(column);
+    values.append(comma).append(*parameter++);
+  }
+  return "INSERT INTO " + std::string(table) + " (" + names + ") VALUES (" + values + ")";
+}
+
+class Inserter {
+ public:
+  Inserter(const hub::Database& database, std::string_view table, std::initializer_list<std::string_view> columns)
+      : statement_(database.Prepare(InsertSql(table, columns))) {}
+
+  // One value for each column.
+  template <class... Values>
+  void Insert(const Values&... values) {
+    static_assert(sizeof...(values) <= std::size(kParameters));
+    statement_.Reset();
+    const char* const* parameter = kParameters;
+    (statement_.Bind(*parameter++, values), ...);
+    statement_.Step();
+  }
+
+ private:
+  hub::Statement statement_;
+};
+
+// Takes the indexes away and gives the statements that make them again: sorting once is much faster than keeping them
+// sorted.
+std::vector<std::string> DropIndexes(const hub::Database& database) {
+  std::vector<std::string> names;
+  std::vector<std::string> definitions;
+  hub::Statement indexes =
+      database.Prepare("SELECT name, sql FROM sqlite_schema WHERE type = 'index' AND sql IS NOT NULL ORDER BY rowid");
+  while (indexes.Step()) {
+    names.emplace_back(indexes.Get<std::string_view>(0));
+    definitions.emplace_back(indexes.Get<std::string_view>(1));
+  }
+  for (const std::string& name : names) database.Execute("DROP INDEX " + name);
+  return definitions;
+}
+
+std::filesystem::path WithSuffix(std::filesystem::path file, const char* suffix) {
+  file += suffix;
+  return file;
+}
+
+void RequireUsable(const std::filesystem::path& file, Existing existing) {
+  const std::filesystem::file_status status = std::filesystem::symlink_status(file);
+  if (!std::filesystem::exists(status)) return;
+  if (std::filesystem::is_directory(file)) {
+    throw Error(SystemError::kPathAccess, "\"" + file.string() + "\" is a folder");
+  }
+  if (existing == Existing::kKeep) {
+    throw Error(SystemError::kFileExists, "\"" + file.string() + "\" exists already; only --force replaces it");
+  }
+}
+
+void RemoveQuietly(const std::filesystem::path& file) {
+  std::error_code ignored;
+  std::filesystem::remove(file, ignored);
+}
+
+}  // namespace
+
+struct HistoryWriter::Session {
+  explicit Session(const std::filesystem::path& file) : database(file, hub::Access::kReadWrite) {
+    database.Execute(kBulkSettings);
+    indexes = DropIndexes(database);
+  }
+
+  hub::Database database;
+  std::vector<std::string> indexes;
+  Inserter label{database, "label", {"name", "value"}};
+  Inserter company{database, "company", {"company_id", "name"}};
+  Inserter station{database, "station", {"station_id", "name", "identifier", "company_id"}};
+  Inserter process{database, "process", {"process_id", "name", "on_server", "on_station"}};
+  Inserter run{database, "process_run", {"process_run_id", "process_id", "start_date", "end_date", "on_station"}};
+  Inserter stationRun{database,
+                      "station_run",
+                      {"process_run_id", "station_id", "station_name", "identifier", "company", "report", "start_date",
+                       "end_date", "in_progress", "ok", "not_ok", "unknown", "executed", "wait_state", "process_id",
+                       "run_start_date", "on_station"}};
+  Inserter taskRun{
+      database,
+      "task_run",
+      {"task_run_id", "process_run_id", "station_id", "position", "task_id", "task_name", "task_type", "not_executed",
+       "station_scope", "waiting", "report", "start_date", "end_date", "in_progress", "ok", "not_ok"}};
+  Inserter step{database,
+                "step_log",
+                {"step_log_id", "task_run_id", "step_name", "settings", "report", "execute_where", "start_date",
+                 "end_date", "in_progress", "ok", "not_ok", "step_kind", "station_scope"}};
+  Inserter command{database,
+                   "command_log",
+                   {"step_log_id", "communication_id", "communication_date", "kind", "result", "text", "report",
+                    "start_date", "end_date", "in_progress", "ok", "not_ok"}};
+};
+
+std::string Describe(const RowCounts& counts) {
+  const auto part = [](std::int32_t count, const char* what) { return std::to_string(count) + " " + what; };
+  return part(counts.stations, "stations, ") + part(counts.processes, "processes, ") + part(counts.runs, "runs, ") +
+         part(counts.stationRuns, "station rows, ") + part(counts.taskRuns, "tasks, ") + part(counts.steps, "steps, ") +
+         part(counts.commands, "commands");
+}
+
+HistoryWriter::HistoryWriter(std::filesystem::path file, Existing existing)
+    : file_(std::move(file)), partial_(WithSuffix(file_, ".partial")) {
+  RequireUsable(file_, existing);
+  RemoveQuietly(partial_);
+  hub::CreateHistory(partial_);
+  session_ = std::make_unique<Session>(partial_);
+}
+
+HistoryWriter::~HistoryWriter() {
+  if (!session_) return;
+  session_.reset();
+  RemoveQuietly(partial_);
+}
+
+void HistoryWriter::AddLabel(std::string_view name, std::string_view value) {
+  session_->label.Insert(name, value);
+}
+
+void HistoryWriter::Add(const CompanyRow& row) {
+  session_->company.Insert(row.id, row.name);
+}
+
+void HistoryWriter::Add(const StationRow& row) {
+  session_->station.Insert(row.id, row.name, row.identifier, row.companyId);
+  ++counts_.stations;
+}
+
+void HistoryWriter::Add(const ProcessRow& row) {
+  session_->process.Insert(row.id, row.name, row.onServer, row.onStation);
+  ++counts_.processes;
+}
+
+void HistoryWriter::Add(const ProcessRunRow& row) {
+  session_->run.Insert(row.id, row.processId, row.start, row.end, row.onStation);
+  ++counts_.runs;
+}
+
+void HistoryWriter::Add(const ProcessRunRow& run, const StationRunRow& row) {
+  session_->stationRun.Insert(run.id, row.stationId, row.stationName, row.identifier, row.company, row.report,
+                              row.start, row.end, row.result.inProgress, row.result.ok, row.result.notOk, row.unknown,
+                              row.executed, row.waitState, run.processId, run.start, run.onStation);
+  ++counts_.stationRuns;
+}
+
+std::int32_t HistoryWriter::Add(const ProcessRunRow& run, const TaskRunRow& row) {
+  const std::int32_t id = ++counts_.taskRuns;
+  session_->taskRun.Insert(id, run.id, row.stationId, row.position, row.taskId, row.name, row.type, row.notExecuted,
+                           row.stationId, row.waiting, row.report, row.start, row.end, row.result.inProgress,
+                           row.result.ok, row.result.notOk);
+  return id;
+}
+
+std::int32_t HistoryWriter::Add(std::int32_t taskRunId, const StepRow& row) {
+  const std::int32_t id = ++counts_.steps;
+  session_->step.Insert(id, taskRunId, row.name, row.settings, row.report, row.executeWhere, row.start, row.end,
+                        row.result.inProgress, row.result.ok, row.result.notOk, row.kind, row.stationScope);
+  return id;
+}
+
+void HistoryWriter::Add(std::int32_t stepLogId, const CommandRow& row) {
+  session_->command.Insert(stepLogId, row.communicationId, row.communicationDate, row.kind, row.code, row.text,
+                           row.report, row.start, row.end, row.result.inProgress, row.result.ok, row.result.notOk);
+  ++counts_.commands;
+}
+
+void HistoryWriter::Finish() {
+  for (const std::string& index : session_->indexes) session_->database.Execute(index);
+  session_->database.Execute("COMMIT");
+  session_.reset();
+  // What an interrupted program left beside the old file would be played back into the new one.
+  for (const char* const suffix : {"-journal", "-wal", "-shm"}) RemoveQuietly(WithSuffix(file_, suffix));
+  try {
+    std::filesystem::rename(partial_, file_);
+  } catch (const std::filesystem::filesystem_error& error) {
+    RemoveQuietly(partial_);
+    throw Error(SystemError::kPathAccess, error.what());
+  }
+}
+
+}  // namespace quorvel::tools
