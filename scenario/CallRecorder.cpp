@@ -1,0 +1,42 @@
+#include "scenario/CallRecorder.h"
+
+#include <optional>
+
+#include "platform/Error.h"
+#include "scenario/Script.h"
+#include "scenario/Values.h"
+
+namespace quorvel::scenario {
+
+void CallRecorder::Run(std::string_view name, std::string_view arguments, const std::function<void()>& call,
+                       std::int32_t* status) {
+  std::string line = std::string(name).append("(").append(arguments).append(")");
+  try {
+    const std::optional<std::int32_t> wanted = faults_.Use(name);
+    call();
+    if (wanted && status != nullptr) *status = *wanted;
+  } catch (...) {
+    Note(line + " error " + ErrorNumberText(CurrentError().number()));
+    throw;
+  }
+  if (status != nullptr) line.append(" -> ").append(std::to_string(*status));
+  Note(std::move(line));
+}
+
+std::string ArgumentText(std::int32_t value) {
+  return std::to_string(value);
+}
+
+std::string ArgumentText(DateValue value) {
+  return value == 0 ? "0" : FormatFixedDateTime(value);
+}
+
+std::string ArgumentText(bool value) {
+  return value ? "True" : "False";
+}
+
+std::string ArgumentText(std::string_view value) {
+  return '"' + Escaped(value) + '"';
+}
+
+}  // namespace quorvel::scenario

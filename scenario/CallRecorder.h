@@ -1,0 +1,43 @@
+// The journal of what record sources were asked for.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/Dates.h"
+#include "scenario/Faults.h"
+
+namespace quorvel::scenario {
+
+// Notes a line for each call, and lets those fail that the script wants to fail.
+class CallRecorder {
+ public:
+  explicit CallRecorder(Faults& faults) : faults_(faults) {}
+
+  // Runs `call` as one use of `name`, unless it is to fail. With `status` it is a query, whose out status can be
+  // overridden once it was run. The line names the call, its arguments, and the status or error that came of it.
+  void Run(std::string_view name, std::string_view arguments, const std::function<void()>& call,
+           std::int32_t* status = nullptr);
+
+  void Note(std::string line) { lines_.push_back(std::move(line)); }
+  // What was noted since the last time.
+  std::vector<std::string> Take() { return std::exchange(lines_, {}); }
+
+  Faults& faults() { return faults_; }
+
+ private:
+  Faults& faults_;
+  std::vector<std::string> lines_;
+};
+
+// Arguments as they stand in the journal.
+std::string ArgumentText(std::int32_t value);
+std::string ArgumentText(DateValue value);
+std::string ArgumentText(bool value);
+std::string ArgumentText(std::string_view value);
+
+}  // namespace quorvel::scenario

@@ -1,0 +1,166 @@
+// Commands for what a user does. What a user could not reach is refused here, the same for every front end.
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+#include "scenario/Commands.h"
+#include "scenario/Values.h"
+#include "scenario/ViewerControls.h"
+
+namespace quorvel::scenario {
+namespace {
+
+using widgets::NodeId;
+
+void RequireUsable(Session& session, const widgets::Control& control) {
+  const SeenControl seen = session.viewer().Look(control);
+  if (!seen.visible) throw ScriptError("Nobody can see " + control.name());
+  if (!seen.enabled) throw ScriptError("Nobody can use " + control.name() + ", it is disabled");
+}
+
+// The control of that name as a `Kind`, in a state in which a user can use it.
+template <class Kind>
+Kind& UsableControl(Session& session, std::string_view name, std::string_view kind) {
+  auto* const control = dynamic_cast<Kind*>(ControlNamed(session.viewer().viewer().controls(), name).control);
+  if (control == nullptr) throw ScriptError(std::string(name) + " is no " + std::string(kind));
+  RequireUsable(session, *control);
+  return *control;
+}
+
+ProcessLogControls& Controls(Session& session) {
+  return session.viewer().viewer().controls();
+}
+
+// The node of that key, at a place where it is not hidden below a closed one.
+NodeId ShownNode(Session& session, const std::string& key) {
+  const widgets::TreeView& tree = Controls(session).tvMotherList;
+  RequireUsable(session, tree);
+  const NodeId node = tree.Find(key);
+  if (node == NodeId::kNone) throw ScriptError("No such node: " + key);
+  for (NodeId parent = tree.Parent(node); parent != NodeId::kNone; parent = tree.Parent(parent)) {
+    if (!session.viewer().IsOpen(parent)) throw ScriptError("The node is below a closed one: " + key);
+  }
+  return node;
+}
+
+void ClickTab(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  RequireUsable(session, Controls(session).sstProcessLog);
+  const std::vector<SeenTab> tabs = session.viewer().Tabs();
+  const auto found = std::ranges::find(tabs, arguments[0], &SeenTab::caption);
+  if (found == tabs.end()) throw ScriptError("No such tab: " + arguments[0]);
+  if (!found->enabled) throw ScriptError("The tab is disabled: " + arguments[0]);
+  session.viewer().ClickTab(arguments[0]);
+}
+
+void ChooseRow(Session& session, widgets::ComboBox& combo, const std::string& text) {
+  const std::optional<std::size_t> row = combo.RowOfText(text);
+  if (!row) throw ScriptError(combo.name() + " has no row " + text);
+  session.viewer().Choose(combo, *row);
+}
+
+void SetOption(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  auto& control = UsableControl<widgets::Control>(session, arguments[0], "control");
+  const std::string& value = arguments[1];
+  if (auto* combo = dynamic_cast<widgets::ComboBox*>(&control)) {
+    ChooseRow(session, *combo, value);
+  } else if (auto* box = dynamic_cast<widgets::TextBox*>(&control)) {
+    session.viewer().Type(*box, value);
+  } else if (auto* check = dynamic_cast<widgets::CheckBox*>(&control)) {
+    session.viewer().Check(*check, FlagOf(value));
+  } else if (auto* picker = dynamic_cast<widgets::DateTimePicker*>(&control)) {
+    const bool hour = picker == &Controls(session).dtpHour;
+    session.viewer().Pick(*picker, hour ? TimeOf(value) : DatePart(DateOf(value)));
+  } else {
+    throw ScriptError(arguments[0] + " is no option");
+  }
+}
+
+void Refresh(Session& session, Arguments /*arguments*/, std::ostream& /*out*/) {
+  session.viewer().Press(UsableControl<widgets::Button>(session, "cmdRefresh", "button"));
+}
+
+void Press(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  if (arguments.size() == 1) {
+    session.viewer().Press(UsableControl<widgets::Button>(session, arguments[0], "button"));
+    return;
+  }
+  auto& upDown = UsableControl<widgets::UpDown>(session, arguments[0], "up-down");
+  if (arguments[1] != "up" && arguments[1] != "down") throw ScriptError("Neither up nor down: " + arguments[1]);
+  session.viewer().Spin(upDown, arguments[1] == "up");
+}
+
+// What is open already, or closed already, stays as it is.
+void SetOpen(Session& session, const std::string& key, bool open) {
+  const NodeId node = ShownNode(session, key);
+  if (!Controls(session).tvMotherList.IsExpandable(node)) throw ScriptError("The node has nothing below it: " + key);
+  if (session.viewer().IsOpen(node) != open) session.viewer().SetOpen(node, open);
+}
+
+void Expand(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  SetOpen(session, arguments[0], true);
+}
+
+void Collapse(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  SetOpen(session, arguments[0], false);
+}
+
+void Click(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  session.viewer().ClickNode(ShownNode(session, arguments[0]));
+}
+
+void Select(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  const widgets::ListView& list = Controls(session).lvMotherList;
+  RequireUsable(session, list);
+  std::vector<std::size_t> rows;
+  for (const std::string& key : arguments) {
+    const std::optional<std::size_t> row = list.RowOfKey(key);
+    if (!row) throw ScriptError("No such row: " + key);
+    rows.push_back(*row);
+  }
+  session.viewer().SelectRows(rows);
+}
+
+// A pointer stands on whole pixels, so the bar goes to the pixel next to the position.
+void Drag(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  if (arguments.size() == 2 && arguments[1] != "hold") throw ScriptError("Use: drag TWIPS [hold]");
+  const widgets::Grip& grip = Controls(session).imgSplitter;
+  RequireUsable(session, grip);
+  const int way = NumberOf(arguments[0]) - session.viewer().Look(grip).bounds.left;
+  if (!session.gripHeld()) session.viewer().PressGrip();
+  session.viewer().MoveGrip(static_cast<int>(std::lround(static_cast<double>(way) / widgets::kTwipsPerPixel)));
+  session.SetGripHeld(arguments.size() == 2);
+  if (!session.gripHeld()) session.viewer().ReleaseGrip();
+}
+
+void Drop(Session& session, Arguments /*arguments*/, std::ostream& /*out*/) {
+  if (!session.gripHeld()) throw ScriptError("Nothing is held");
+  session.SetGripHeld(false);
+  session.viewer().ReleaseGrip();
+}
+
+void Size(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  session.viewer().Resize(NumberOf(arguments[0]), NumberOf(arguments[1]));
+}
+
+void Scroll(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  auto& bar = UsableControl<widgets::ScrollBar>(session, arguments[0], "scroll bar");
+  session.viewer().Scroll(bar, NumberOf(arguments[1]));
+}
+
+constexpr CommandEntry kCommands[] = {
+    {"tab", "CAPTION", 1, 1, ClickTab},   {"option", "CONTROL VALUE", 2, 2, SetOption},
+    {"refresh", "", 0, 0, Refresh},       {"press", "BUTTON | UPDOWN up|down", 1, 2, Press},
+    {"expand", "KEY", 1, 1, Expand},      {"collapse", "KEY", 1, 1, Collapse},
+    {"click", "KEY", 1, 1, Click},        {"select", "KEY [KEY ...]", 1, kAnyNumber, Select},
+    {"drag", "TWIPS [hold]", 1, 2, Drag}, {"drop", "", 0, 0, Drop},
+    {"size", "WIDTH HEIGHT", 2, 2, Size}, {"scroll", "SCROLLBAR VALUE", 2, 2, Scroll},
+};
+
+}  // namespace
+
+std::span<const CommandEntry> GestureCommands() {
+  return kCommands;
+}
+
+}  // namespace quorvel::scenario

@@ -1,0 +1,116 @@
+// Commands for what a host programmer does: properties and methods.
+#include <charconv>
+
+#include "platform/Error.h"
+#include "scenario/Commands.h"
+#include "scenario/Values.h"
+
+namespace quorvel::scenario {
+namespace {
+
+struct Property {
+  std::string_view name;
+  std::string (*get)(const ucProcessLog& viewer);  // nullptr: cannot be read
+  void (*set)(ucProcessLog& viewer, std::string_view value);
+};
+
+constexpr Property kProperties[] = {
+    {"p_Connect", [](const ucProcessLog& viewer) { return std::to_string(viewer.p_Connect()); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_Connect(NumberOf(value)); }},
+    {"p_ProcessId", [](const ucProcessLog& viewer) { return std::to_string(viewer.p_ProcessId()); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_ProcessId(NumberOf(value)); }},
+    {"p_FromType",
+     [](const ucProcessLog& viewer) { return std::to_string(static_cast<std::int32_t>(viewer.p_FromType())); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_FromType(static_cast<tlFromType>(NumberOf(value))); }},
+    {"p_Key", [](const ucProcessLog& viewer) { return viewer.p_Key(); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_Key(value); }},
+    {"p_ListCount", [](const ucProcessLog& viewer) { return std::to_string(viewer.p_ListCount()); }, nullptr},
+    {"p_ServerName", nullptr, [](ucProcessLog& viewer, std::string_view value) { viewer.p_ServerName(value); }},
+};
+
+void Set(Session& session, Arguments arguments, std::ostream& out) {
+  const Property& property = Named(kProperties, arguments[0], "property");
+  if (property.set == nullptr) throw ScriptError("A host cannot set " + arguments[0]);
+  CallAsHost(out, [&] { property.set(session.viewer().viewer(), arguments[1]); });
+}
+
+void Get(Session& session, Arguments arguments, std::ostream& out) {
+  const Property& property = Named(kProperties, arguments[0], "property");
+  if (property.get == nullptr) throw ScriptError("A host cannot get " + arguments[0]);
+  CallAsHost(out, [&] { out << Escaped(property.get(session.viewer().viewer())) << '\n'; });
+}
+
+std::string DecimalText(float value) {
+  std::string text(32, '\0');
+  text.resize(static_cast<std::size_t>(std::to_chars(text.data(), text.data() + text.size(), value).ptr - text.data()));
+  return text;
+}
+
+// Arguments by reference are printed as they are afterwards.
+struct Method {
+  std::string_view name;
+  std::string_view usage;
+  std::size_t least;
+  std::size_t most;
+  void (*call)(ucProcessLog& viewer, Arguments arguments, std::ostream& out);
+};
+
+constexpr Method kMethods[] = {
+    {"InitStateListByTab", "", 0, 0,
+     [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.InitStateListByTab(); }},
+    {"ControlsVisible", "STATE", 1, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream&) { viewer.ControlsVisible(NumberOf(arguments[0])); }},
+    {"m_GetLogByProcess", "[0|1]", 0, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream&) {
+       viewer.m_GetLogByProcess(!arguments.empty() && FlagOf(arguments[0]));
+     }},
+    {"m_GetLogAll", "STATE", 1, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream& out) {
+       auto state = static_cast<StateFilter>(NumberOf(arguments[0]));
+       viewer.m_GetLogAll(state);
+       out << "state = " << static_cast<std::int32_t>(state) << '\n';
+     }},
+    {"SizeControls", "[WIDTH]", 0, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream& out) {
+       if (arguments.empty()) return viewer.SizeControls();
+       float width = DecimalOf(arguments[0]);
+       viewer.SizeControls(width);
+       out << "treeWidth = " << DecimalText(width) << '\n';
+     }},
+};
+
+void Call(Session& session, Arguments arguments, std::ostream& out) {
+  const Method& method = Named(kMethods, arguments[0], "method");
+  const Arguments given = arguments.subspan(1);
+  if (given.size() < method.least || given.size() > method.most) {
+    throw ScriptError("Use: call " + arguments[0] + " " + std::string(method.usage));
+  }
+  CallAsHost(out, [&] { method.call(session.viewer().viewer(), given, out); });
+}
+
+constexpr CommandEntry kCommands[] = {
+    {"set", "PROPERTY VALUE", 2, 2, Set},
+    {"get", "PROPERTY", 1, 1, Get, true},
+    {"call", "METHOD [ARGUMENT ...]", 1, kAnyNumber, Call, true},
+};
+
+}  // namespace
+
+std::span<const CommandEntry> HostCommands() {
+  return kCommands;
+}
+
+void CallAsHost(std::ostream& out, const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const ScriptError&) {
+    throw;
+  } catch (...) {
+    const Error error = CurrentError();
+    out << "error " << ErrorNumberText(error.number()) << '\n'
+        << "source " << Escaped(error.source()) << '\n'
+        << "description " << Escaped(error.description()) << '\n';
+  }
+}
+
+}  // namespace quorvel::scenario

@@ -1,0 +1,216 @@
+// The command `print`: what a user sees, as text.
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+#include "scenario/Commands.h"
+#include "scenario/ViewerControls.h"
+
+namespace quorvel::scenario {
+namespace {
+
+using widgets::NodeId;
+
+constexpr std::string_view kNodeIndent = "  ";
+constexpr std::string_view kAlignments[] = {"left", "right", "centre"};
+
+// Closed, open, or without anything below it.
+char ExpanderOf(const SeenNode& node) {
+  if (!node.expandable) return ' ';
+  return node.open ? '-' : '+';
+}
+
+std::string ImagesOf(const widgets::TreeView& tree, NodeId node) {
+  const std::string& image = tree.Image(node);
+  if (tree.SelectedImage(node) == image && tree.ExpandedImage(node) == image) return image;
+  return image + "/" + tree.SelectedImage(node) + "/" + tree.ExpandedImage(node);
+}
+
+void PrintNode(const SeenNode& node, const widgets::TreeView& tree, std::ostream& out) {
+  for (std::size_t level = 0; level < node.depth; ++level) out << kNodeIndent;
+  out << ExpanderOf(node) << Escaped(node.text) << '\t' << Escaped(tree.Key(node.node)) << '\t'
+      << ImagesOf(tree, node.node);
+  if (node.colour == widgets::SystemColour::kGrayText) out << "\tgray";
+  if (node.bold) out << "\tbold";
+  if (node.selected) out << "\t*";
+  out << '\n';
+}
+
+void PrintTree(Session& session, bool all, std::ostream& out) {
+  const widgets::TreeView& tree = session.viewer().viewer().controls().tvMotherList;
+  if (!session.viewer().Look(tree).visible) return;
+  std::size_t shownDepth = 0;  // nodes deeper than this are below a closed one
+  for (const SeenNode& node : session.viewer().Nodes()) {
+    if (!all && node.depth > shownDepth) continue;
+    PrintNode(node, tree, out);
+    shownDepth = node.depth + (node.open ? 1 : 0);
+  }
+}
+
+// Prints texts joined by tabs, and a line end.
+template <class Texts>
+void PrintJoined(const Texts& texts, std::ostream& out) {
+  std::string_view separator;
+  for (const std::string& text : texts) {
+    out << separator << Escaped(text);
+    separator = "\t";
+  }
+  out << '\n';
+}
+
+void PrintList(Session& session, std::ostream& out) {
+  const widgets::ListView& list = session.viewer().viewer().controls().lvMotherList;
+  if (!session.viewer().Look(list).visible) return;
+  std::vector<std::string> captions;
+  for (const SeenHeader& header : session.viewer().Headers()) captions.push_back(header.caption);
+  PrintJoined(captions, out);
+  const std::vector<SeenRow> rows = session.viewer().Rows();
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    out << (rows[row].selected ? '*' : ' ') << (rows[row].bold ? '!' : ' ') << list.Icon(row) << '\t'
+        << Escaped(list.Key(row)) << '\t';
+    PrintJoined(rows[row].cells, out);
+  }
+}
+
+void PrintColumns(Session& session, std::ostream& out) {
+  const widgets::ListView& list = session.viewer().viewer().controls().lvMotherList;
+  const std::vector<SeenHeader> headers = session.viewer().Headers();
+  for (std::size_t i = 0; i < headers.size(); ++i) {
+    const widgets::ColumnHeader& header = list.headers().at(i);
+    out << Escaped(headers[i].caption) << '\t' << headers[i].width << '\t'
+        << kAlignments[static_cast<std::size_t>(headers[i].alignment)] << '\t' << static_cast<int>(header.tag) << '\t'
+        << header.icon << '\n';
+  }
+  const bool descending = list.sortOrder() == widgets::SortOrder::kDescending;
+  out << "sort\t" << list.sortKey() << '\t' << (descending ? "descending" : "ascending") << '\n';
+}
+
+void PrintOptions(Session& session, std::ostream& out) {
+  ProcessLogControls& controls = session.viewer().viewer().controls();
+  for (const PlacedControl& placed : PlacedControls(controls)) {
+    if (placed.container != &controls.fraOption) continue;
+    const SeenControl seen = session.viewer().Look(*placed.control);
+    if (!seen.visible) continue;
+    out << placed.control->name() << (seen.enabled ? "" : " (disabled)");
+    if (seen.value) out << '\t' << Escaped(*seen.value);
+    if (!seen.text.empty()) out << '\t' << Escaped(seen.text);
+    for (const std::string& item : seen.items) out << '\t' << Escaped(item);
+    out << '\n';
+  }
+}
+
+void PrintTabs(Session& session, std::ostream& out) {
+  if (!session.viewer().Look(session.viewer().viewer().controls().sstProcessLog).visible) return;
+  for (const SeenTab& tab : session.viewer().Tabs()) {
+    out << (tab.current ? '*' : ' ') << Escaped(tab.caption) << (tab.enabled ? "" : " (disabled)") << '\n';
+  }
+}
+
+void PrintMessages(Session& session, std::ostream& out) {
+  for (const ShownMessage& message : session.platform().TakeMessages()) {
+    out << '[' << Escaped(message.title) << "]\n" << EscapedLines(message.text);
+  }
+}
+
+void PrintStatusBar(Session& session, std::ostream& out) {
+  out << Escaped(session.port().StatusText()) << '\n';
+}
+
+void PrintLog(Session& session, std::ostream& out) {
+  std::ifstream log(session.logFile(), std::ios::binary);
+  out << EscapedLines(std::string(std::istreambuf_iterator<char>(log), {}));
+}
+
+void PrintPlace(Session& session, const widgets::Control& control, std::ostream& out) {
+  const SeenControl seen = session.viewer().Look(control);
+  if (!seen.visible) return;
+  out << control.name() << '\t' << seen.bounds.left << '\t' << seen.bounds.top << '\t' << seen.bounds.width << '\t'
+      << seen.bounds.height << '\n';
+}
+
+// Of the named controls, or of all.
+void PrintLayout(Session& session, Arguments names, std::ostream& out) {
+  ProcessLogControls& controls = session.viewer().viewer().controls();
+  for (const std::string& name : names) PrintPlace(session, *ControlNamed(controls, name).control, out);
+  if (!names.empty()) return;
+  for (const PlacedControl& placed : PlacedControls(controls)) PrintPlace(session, *placed.control, out);
+}
+
+void PrintPointer(Session& session, std::ostream& out) {
+  std::vector<std::string> values;
+  for (const MousePointer pointer : session.platform().TakePointers()) {
+    values.push_back(std::to_string(static_cast<int>(pointer)));
+  }
+  PrintJoined(values, out);
+}
+
+void PrintContext(Session& session, std::ostream& out) {
+  const tree::NavigationContext& context = session.viewer().viewer().context();
+  out << "ContextProcess\t" << Escaped(context.ContextProcess) << '\n'
+      << "ContextFlag\t" << Escaped(context.ContextFlag) << '\n'
+      << "ContextRun\t" << Escaped(context.ContextRun) << '\n'
+      << "ContextState\t" << Escaped(context.ContextState) << '\n'
+      << "ContextUser\t" << Escaped(context.ContextUser) << '\n'
+      << "ContextTask\t" << Escaped(context.ContextTask) << '\n'
+      << "ContextStepLog\t" << Escaped(context.ContextStepLog) << '\n'
+      << "ContextStep\t" << Escaped(context.ContextStep) << '\n'
+      << "ContextExtra\t" << Escaped(context.ContextExtra) << '\n'
+      << "ContextCommunication\t" << Escaped(context.ContextCommunication) << '\n';
+}
+
+void PrintCalls(Session& session, std::ostream& out) {
+  for (const std::string& line : session.calls().Take()) out << line << '\n';
+}
+
+void PrintCaption(Session& session, std::ostream& out) {
+  const SeenControl seen = session.viewer().Look(session.viewer().viewer().controls().fraList);
+  if (seen.visible) out << Escaped(seen.text) << '\n';
+}
+
+void PrintClipboard(Session& session, std::ostream& out) {
+  out << EscapedLines(session.platform().clipboard());
+}
+
+struct PrintEntry {
+  std::string_view name;
+  void (*print)(Session& session, std::ostream& out);
+};
+
+constexpr PrintEntry kPrints[] = {
+    {"tree", [](Session& session, std::ostream& out) { PrintTree(session, false, out); }},
+    {"list", PrintList},
+    {"columns", PrintColumns},
+    {"options", PrintOptions},
+    {"tabs", PrintTabs},
+    {"messages", PrintMessages},
+    {"statusbar", PrintStatusBar},
+    {"log", PrintLog},
+    {"pointer", PrintPointer},
+    {"context", PrintContext},
+    {"calls", PrintCalls},
+    {"caption", PrintCaption},
+    {"clipboard", PrintClipboard},
+};
+
+void Print(Session& session, Arguments arguments, std::ostream& out) {
+  const Arguments rest = arguments.subspan(1);
+  if (arguments[0] == "layout") {
+    PrintLayout(session, rest, out);
+  } else if (arguments[0] == "tree" && rest.size() == 1 && rest[0] == "all") {
+    PrintTree(session, true, out);
+  } else if (rest.empty()) {
+    Named(kPrints, arguments[0], "print").print(session, out);
+  } else {
+    throw ScriptError("No such print: " + arguments[0] + " " + rest[0]);
+  }
+}
+
+constexpr CommandEntry kCommands[] = {{"print", "WHAT", 1, kAnyNumber, Print, true}};
+
+}  // namespace
+
+std::span<const CommandEntry> PrintCommands() {
+  return kCommands;
+}
+
+}  // namespace quorvel::scenario

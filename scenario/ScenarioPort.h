@@ -1,0 +1,111 @@
+// What a scenario needs of a front end: gestures on a viewer, and reading back what a user sees of it.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "control/ucProcessLog.h"
+#include "datasource/RecordSource.h"
+#include "platform/Platform.h"
+#include "widgets/Control.h"
+
+namespace quorvel::scenario {
+
+// Any control.
+struct SeenControl {
+  bool visible = false;  // it and all that it lies in
+  bool enabled = false;
+  widgets::Rect bounds;              // within what it lies in
+  std::string text;                  // caption; "" for controls without one
+  std::optional<std::string> value;  // what it is set to, as a script sets it; nothing for labels and the like
+  std::vector<std::string> items;    // rows of a combo or list box
+};
+
+struct SeenTab {
+  std::string caption;
+  bool enabled = false;
+  bool current = false;
+};
+
+struct SeenNode {
+  widgets::NodeId node = widgets::NodeId::kNone;
+  std::size_t depth = 0;  // 0 = a root
+  std::string text;
+  widgets::SystemColour colour = widgets::SystemColour::kWindowText;
+  bool bold = false;
+  bool expandable = false;
+  bool open = false;
+  bool selected = false;
+};
+
+struct SeenHeader {
+  std::string caption;
+  widgets::Twips width = 0;
+  widgets::Alignment alignment = widgets::Alignment::kLeft;
+};
+
+struct SeenRow {
+  std::vector<std::string> cells;
+  bool bold = false;
+  bool selected = false;
+};
+
+// One viewer on a form.
+//
+// Gestures are made as a user makes them, and return when all that follows from them was done. The runner has made sure
+// that the user can see and use what they are made on. Reading gives what is shown, from the widgets where there are
+// widgets; keys and icon names alone, which no widget shows, come from the models.
+class ViewerPort {
+ public:
+  virtual ~ViewerPort() = default;
+
+  // The viewer itself, for what a host programmer does with it.
+  virtual ucProcessLog& viewer() = 0;
+
+  virtual SeenControl Look(const widgets::Control& control) const = 0;
+  // Tabs that are hidden are left out.
+  virtual std::vector<SeenTab> Tabs() const = 0;
+  // All nodes from top to bottom, those below closed ones too.
+  virtual std::vector<SeenNode> Nodes() const = 0;
+  virtual bool IsOpen(widgets::NodeId node) const = 0;
+  virtual std::vector<SeenHeader> Headers() const = 0;
+  virtual std::vector<SeenRow> Rows() const = 0;
+
+  // In pixels at 96 dots per inch.
+  virtual void Resize(int width, int height) = 0;
+  virtual void ClickTab(std::string_view caption) = 0;
+  virtual void Choose(widgets::ComboBox& combo, std::size_t row) = 0;
+  virtual void Type(widgets::TextBox& box, std::string_view text) = 0;
+  virtual void Pick(widgets::DateTimePicker& picker, DateValue value) = 0;
+  virtual void Check(widgets::CheckBox& box, bool checked) = 0;
+  virtual void Press(widgets::Button& button) = 0;
+  virtual void Spin(widgets::UpDown& upDown, bool up) = 0;
+  virtual void SetOpen(widgets::NodeId node, bool open) = 0;
+  virtual void ClickNode(widgets::NodeId node) = 0;
+  // In place of the selection.
+  virtual void SelectRows(std::span<const std::size_t> rows) = 0;
+  // The splitter: press on the grip, move by whole pixels from where it was pressed, let go.
+  virtual void PressGrip() = 0;
+  virtual void MoveGrip(int pixels) = 0;
+  virtual void ReleaseGrip() = 0;
+  virtual void Scroll(widgets::ScrollBar& bar, std::int32_t value) = 0;
+};
+
+// A host: its form, and its status bar.
+class ScenarioPort {
+ public:
+  virtual ~ScenarioPort() = default;
+  // Puts a new viewer on the form. It uses this platform and these record sources, which outlive it.
+  virtual std::unique_ptr<ViewerPort> PlaceViewer(Platform& platform, datasource::RecordSourceFactory& factory) = 0;
+
+  // The first panel of stStatusBar.
+  virtual void SetStatusText(std::string_view text) = 0;
+  virtual std::string StatusText() const = 0;
+};
+
+}  // namespace quorvel::scenario

@@ -1,0 +1,22 @@
+// The controls of a viewer in the order of a print, each with the frame that it lies in.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "control/ProcessLogControls.h"
+
+namespace quorvel::scenario {
+
+struct PlacedControl {
+  widgets::Control* control = nullptr;
+  widgets::Control* container = nullptr;  // nullptr = the viewer itself
+};
+
+// Outermost first, the options panel in the order of the tab key.
+std::vector<PlacedControl> PlacedControls(ProcessLogControls& controls);
+
+// The control of that name with its container. ScriptError when there is none.
+PlacedControl ControlNamed(ProcessLogControls& controls, std::string_view name);
+
+}  // namespace quorvel::scenario

@@ -1,0 +1,51 @@
+#include "scenario_qt/Input.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWidget>
+
+namespace quorvel::scenario {
+namespace {
+
+void SendMouse(QWidget& widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held,
+               Qt::KeyboardModifiers modifiers) {
+  QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, modifiers);
+  QApplication::sendEvent(&widget, &event);
+}
+
+void SendKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+  QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+  QApplication::sendEvent(&widget, &press);
+  QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
+  QApplication::sendEvent(&widget, &release);
+}
+
+}  // namespace
+
+void PressMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers) {
+  SendMouse(widget, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton, modifiers);
+}
+
+void DragMouse(QWidget& widget, QPoint to) {
+  SendMouse(widget, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, {});
+}
+
+void ReleaseMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers) {
+  SendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton, modifiers);
+}
+
+void ClickMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers) {
+  PressMouse(widget, at, modifiers);
+  ReleaseMouse(widget, at, modifiers);
+}
+
+void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  SendKey(widget, key, modifiers, {});
+}
+
+void TypeText(QWidget& widget, const QString& text) {
+  for (const QChar c : text) SendKey(widget, c.toUpper().unicode(), {}, c);
+}
+
+}  // namespace quorvel::scenario

@@ -1,0 +1,22 @@
+// Mouse and keyboard input as widgets get it from a user.
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <Qt>
+
+class QWidget;
+
+namespace quorvel::scenario {
+
+// The left button, at a place within the widget.
+void PressMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers = {});
+void DragMouse(QWidget& widget, QPoint to);
+void ReleaseMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers = {});
+void ClickMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers = {});
+
+void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+// Character by character.
+void TypeText(QWidget& widget, const QString& text);
+
+}  // namespace quorvel::scenario

@@ -1,0 +1,310 @@
+#include "scenario_qt/QtViewer.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QDeadlineTimer>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QTabBar>
+#include <QToolButton>
+#include <chrono>
+
+#include "qt/Convert.h"
+#include "qt/ListPane.h"
+#include "qt/TreePane.h"
+#include "scenario/Script.h"
+#include "scenario_qt/Input.h"
+
+namespace quorvel::scenario {
+namespace {
+
+using qt::FromQt;
+using widgets::NodeId;
+
+constexpr int kIntoText = 3;  // pixels from the edge of an item
+constexpr std::chrono::seconds kResizeLimit{5};
+
+// Everything that follows from a gesture is done before the next command.
+void Settle() {
+  QCoreApplication::sendPostedEvents();
+  QCoreApplication::processEvents();
+}
+
+// A widget lies on whole pixels. Where it lies on those that the twips of its control round to, it lies there.
+widgets::Rect BoundsOf(const QWidget& widget, const widgets::Control& control) {
+  const QRect place = widget.geometry();
+  if (place == qt::ToPixels(control.bounds())) return control.bounds();
+  return {qt::ToTwips(place.x()), qt::ToTwips(place.y()), qt::ToTwips(place.width()), qt::ToTwips(place.height())};
+}
+
+std::string CaptionOf(const QWidget& widget) {
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) return FromQt(label->text());
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return FromQt(button->text());
+  return {};
+}
+
+std::optional<std::string> ValueOf(const QWidget& widget) {
+  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return FromQt(combo->currentText());
+  if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) return FromQt(box->text());
+  if (const auto* check = qobject_cast<const QCheckBox*>(&widget)) return check->isChecked() ? "1" : "0";
+  if (const auto* picker = qobject_cast<const QDateTimeEdit*>(&widget)) return FromQt(picker->text());
+  if (const auto* bar = qobject_cast<const QScrollBar*>(&widget)) return std::to_string(bar->value());
+  if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
+    return list->currentItem() == nullptr ? std::string() : FromQt(list->currentItem()->text());
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> ItemsOf(const QWidget& widget) {
+  std::vector<std::string> items;
+  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+    for (int row = 0; row < combo->count(); ++row) items.push_back(FromQt(combo->itemText(row)));
+  } else if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
+    for (int row = 0; row < list->count(); ++row) items.push_back(FromQt(list->item(row)->text()));
+  }
+  return items;
+}
+
+bool IsBold(const QModelIndex& index) {
+  return index.data(Qt::FontRole).value<QFont>().bold();
+}
+
+widgets::SystemColour ColourOf(const QModelIndex& index) {
+  return index.data(Qt::ForegroundRole).isValid() ? widgets::SystemColour::kGrayText
+                                                  : widgets::SystemColour::kWindowText;
+}
+
+widgets::Alignment AlignmentOf(int alignment) {
+  if ((alignment & Qt::AlignRight) != 0) return widgets::Alignment::kRight;
+  if ((alignment & Qt::AlignHCenter) != 0) return widgets::Alignment::kCentre;
+  return widgets::Alignment::kLeft;
+}
+
+}  // namespace
+
+template <class Widget>
+Widget& QtViewer::Of(const widgets::Control& control) const {
+  auto* const found = widget_->findChild<Widget*>(qt::ToQt(control.name()));
+  if (found == nullptr) throw ScriptError("No widget draws " + control.name());
+  return *found;
+}
+
+SeenControl QtViewer::Look(const widgets::Control& control) const {
+  const auto* const found = widget_->findChild<QWidget*>(qt::ToQt(control.name()));
+  if (found == nullptr) return {};  // what nobody draws is not to be seen
+  const QWidget& widget = *found;
+  SeenControl seen{widget.isVisible(), widget.isEnabled(), BoundsOf(widget, control),
+                   CaptionOf(widget),  ValueOf(widget),    ItemsOf(widget)};
+  // The caption of this frame is painted; a screen reader says the same.
+  if (&control == &widget_->control().controls().fraList) seen.text = FromQt(widget.accessibleName());
+  return seen;
+}
+
+std::vector<SeenTab> QtViewer::Tabs() const {
+  const auto& tabs = Of<QTabBar>(widget_->control().controls().sstProcessLog);
+  std::vector<SeenTab> seen;
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    if (!tabs.isTabVisible(tab)) continue;
+    seen.push_back({FromQt(tabs.tabText(tab)), tabs.isTabEnabled(tab), tab == tabs.currentIndex()});
+  }
+  return seen;
+}
+
+std::vector<SeenNode> QtViewer::Nodes() const {
+  std::vector<SeenNode> seen;
+  AppendChildren({}, 0, seen);
+  return seen;
+}
+
+void QtViewer::AppendChildren(const QModelIndex& parent, std::size_t depth, std::vector<SeenNode>& seen) const {
+  const qt::TreePane& tree = widget_->tree();
+  const QAbstractItemModel& model = *tree.model();
+  for (int row = 0; row < model.rowCount(parent); ++row) {
+    const QModelIndex index = model.index(row, 0, parent);
+    seen.push_back({tree.nodes().NodeOf(index), depth, FromQt(index.data().toString()), ColourOf(index), IsBold(index),
+                    model.hasChildren(index), tree.isExpanded(index), tree.selectionModel()->isSelected(index)});
+    AppendChildren(index, depth + 1, seen);
+  }
+}
+
+bool QtViewer::IsOpen(NodeId node) const {
+  return widget_->tree().isExpanded(widget_->tree().nodes().IndexOf(node));
+}
+
+std::vector<SeenHeader> QtViewer::Headers() const {
+  const qt::ListPane& list = widget_->list();
+  const auto& headers = widget_->control().controls().lvMotherList.headers();
+  std::vector<SeenHeader> seen;
+  for (int column = 0; column < list.model()->columnCount(); ++column) {
+    const auto header = [&](int role) { return list.model()->headerData(column, Qt::Horizontal, role); };
+    const int width = list.horizontalHeader()->sectionSize(column);
+    const widgets::Twips wanted = headers.at(static_cast<std::size_t>(column)).width;
+    seen.push_back({FromQt(header(Qt::DisplayRole).toString()),
+                    width == qt::ToPixels(wanted) ? wanted : qt::ToTwips(width),
+                    AlignmentOf(header(Qt::TextAlignmentRole).toInt())});
+  }
+  return seen;
+}
+
+std::vector<SeenRow> QtViewer::Rows() const {
+  const qt::ListPane& list = widget_->list();
+  const QAbstractItemModel& model = *list.model();
+  std::vector<SeenRow> seen(static_cast<std::size_t>(model.rowCount()));
+  for (int row = 0; row < model.rowCount(); ++row) {
+    SeenRow& each = seen[static_cast<std::size_t>(row)];
+    for (int column = 0; column < model.columnCount(); ++column) {
+      each.cells.push_back(FromQt(model.index(row, column).data().toString()));
+    }
+    each.bold = IsBold(model.index(row, 0));
+    each.selected = list.selectionModel()->isRowSelected(row);
+  }
+  return seen;
+}
+
+void QtViewer::Resize(int width, int height) {
+  const QSize wanted(width, height);
+  // A form that lays its viewer out gives it the size through its own.
+  QWidget* const form = widget_->parentWidget();
+  if (form != nullptr && form->layout() != nullptr) {
+    QWidget& window = *widget_->window();
+    window.resize(window.size() + wanted - widget_->size());
+  } else {
+    widget_->resize(wanted);
+  }
+  // Window systems take their time.
+  const QDeadlineTimer limit(kResizeLimit);
+  do {
+    Settle();
+  } while (widget_->size() != wanted && !limit.hasExpired());
+}
+
+void QtViewer::ClickTab(std::string_view caption) {
+  auto& tabs = Of<QTabBar>(widget_->control().controls().sstProcessLog);
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    if (!tabs.isTabVisible(tab) || FromQt(tabs.tabText(tab)) != caption) continue;
+    ClickMouse(tabs, tabs.tabRect(tab).center());
+    break;
+  }
+  Settle();
+}
+
+void QtViewer::Choose(widgets::ComboBox& combo, std::size_t row) {
+  auto& box = Of<QComboBox>(combo);
+  PressKey(box, Qt::Key_F4);  // opens the list
+  Settle();
+  QAbstractItemView& list = *box.view();
+  PressKey(list, Qt::Key_Home);
+  for (std::size_t step = 0; step < row; ++step) PressKey(list, Qt::Key_Down);
+  PressKey(list, Qt::Key_Return);
+  Settle();
+}
+
+void QtViewer::Type(widgets::TextBox& box, std::string_view text) {
+  auto& edit = Of<QLineEdit>(box);
+  PressKey(edit, Qt::Key_A, Qt::ControlModifier);
+  PressKey(edit, Qt::Key_Delete);
+  TypeText(edit, qt::ToQt(text));
+  Settle();
+}
+
+void QtViewer::Pick(widgets::DateTimePicker& picker, DateValue value) {
+  auto& edit = Of<QDateTimeEdit>(picker);
+  const qt::QtDate date = qt::ToQt(value);
+  const QString digits = QDateTime(date.day, date.time, Qt::UTC).toString(edit.displayFormat());
+  int place = 0;
+  for (int section = 0; section < edit.sectionCount(); ++section) {
+    edit.setCurrentSectionIndex(section);
+    const QString width = edit.sectionText(edit.currentSection());
+    edit.setSelectedSection(edit.currentSection());
+    TypeText(edit, digits.mid(place, width.size()));
+    place += static_cast<int>(width.size()) + 1;
+  }
+  Settle();
+}
+
+void QtViewer::Check(widgets::CheckBox& box, bool checked) {
+  auto& check = Of<QCheckBox>(box);
+  if (check.isChecked() == checked) return;
+  QStyleOptionButton option;
+  option.initFrom(&check);
+  ClickMouse(check, check.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &check).center());
+  Settle();
+}
+
+void QtViewer::Press(widgets::Button& button) {
+  auto& widget = Of<QAbstractButton>(button);
+  ClickMouse(widget, widget.rect().center());
+  Settle();
+}
+
+void QtViewer::Spin(widgets::UpDown& upDown, bool up) {
+  for (QToolButton* button : Of(upDown).findChildren<QToolButton*>()) {
+    if (button->arrowType() == (up ? Qt::UpArrow : Qt::DownArrow)) ClickMouse(*button, button->rect().center());
+  }
+  Settle();
+}
+
+QPoint QtViewer::PointOn(QAbstractItemView& view, const QModelIndex& index) const {
+  view.scrollTo(index);
+  Settle();
+  return view.visualRect(index).intersected(view.viewport()->rect()).topLeft() + QPoint(kIntoText, kIntoText);
+}
+
+void QtViewer::SetOpen(NodeId node, bool /*open*/) {
+  // The expander toggles, and stands in the indentation before the item.
+  qt::TreePane& tree = widget_->tree();
+  const QModelIndex index = tree.nodes().IndexOf(node);
+  tree.scrollTo(index);
+  Settle();
+  const QRect item = tree.visualRect(index);
+  ClickMouse(*tree.viewport(), {item.left() - tree.indentation() / 2, item.center().y()});
+  Settle();
+}
+
+void QtViewer::ClickNode(NodeId node) {
+  qt::TreePane& tree = widget_->tree();
+  ClickMouse(*tree.viewport(), PointOn(tree, tree.nodes().IndexOf(node)));
+  Settle();
+}
+
+void QtViewer::SelectRows(std::span<const std::size_t> rows) {
+  qt::ListPane& list = widget_->list();
+  Qt::KeyboardModifiers modifiers;
+  for (const std::size_t row : rows) {
+    ClickMouse(*list.viewport(), PointOn(list, list.model()->index(static_cast<int>(row), 0)), modifiers);
+    modifiers = Qt::ControlModifier;
+  }
+  Settle();
+}
+
+void QtViewer::PressGrip() {
+  PressMouse(Of(widget_->control().controls().imgSplitter), {0, 0});
+}
+
+void QtViewer::MoveGrip(int pixels) {
+  DragMouse(Of(widget_->control().controls().imgSplitter), {pixels, 0});
+  Settle();
+}
+
+void QtViewer::ReleaseGrip() {
+  ReleaseMouse(Of(widget_->control().controls().imgSplitter), {0, 0});
+  Settle();
+}
+
+void QtViewer::Scroll(widgets::ScrollBar& bar, std::int32_t value) {
+  // As a drag of the thumb, which reaches no more values than the bar has pixels.
+  auto& widget = Of<QScrollBar>(bar);
+  widget.setSliderDown(true);
+  widget.setSliderPosition(value);
+  widget.setSliderDown(false);
+  Settle();
+}
+
+}  // namespace quorvel::scenario

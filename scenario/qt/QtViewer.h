@@ -1,0 +1,57 @@
+// One viewer of a scenario as a widget of Qt.
+#pragma once
+
+#include <QPointer>
+
+#include "qt/ProcessLogWidget.h"
+#include "scenario/ScenarioPort.h"
+
+class QAbstractItemView;
+
+namespace quorvel::scenario {
+
+class QtViewer final : public ViewerPort {
+ public:
+  explicit QtViewer(qt::ProcessLogWidget& widget) : widget_(&widget) {}
+  // Takes the widget off its form.
+  ~QtViewer() override { delete widget_; }
+  QtViewer(const QtViewer&) = delete;
+  QtViewer& operator=(const QtViewer&) = delete;
+
+  ucProcessLog& viewer() override { return widget_->control(); }
+
+  SeenControl Look(const widgets::Control& control) const override;
+  std::vector<SeenTab> Tabs() const override;
+  std::vector<SeenNode> Nodes() const override;
+  bool IsOpen(widgets::NodeId node) const override;
+  std::vector<SeenHeader> Headers() const override;
+  std::vector<SeenRow> Rows() const override;
+
+  void Resize(int width, int height) override;
+  void ClickTab(std::string_view caption) override;
+  void Choose(widgets::ComboBox& combo, std::size_t row) override;
+  void Type(widgets::TextBox& box, std::string_view text) override;
+  void Pick(widgets::DateTimePicker& picker, DateValue value) override;
+  void Check(widgets::CheckBox& box, bool checked) override;
+  void Press(widgets::Button& button) override;
+  void Spin(widgets::UpDown& upDown, bool up) override;
+  void SetOpen(widgets::NodeId node, bool open) override;
+  void ClickNode(widgets::NodeId node) override;
+  void SelectRows(std::span<const std::size_t> rows) override;
+  void PressGrip() override;
+  void MoveGrip(int pixels) override;
+  void ReleaseGrip() override;
+  void Scroll(widgets::ScrollBar& bar, std::int32_t value) override;
+
+ private:
+  // The widget that draws a control.
+  template <class Widget = QWidget>
+  Widget& Of(const widgets::Control& control) const;
+  // A point on the text of an item, scrolled into view.
+  QPoint PointOn(QAbstractItemView& view, const QModelIndex& index) const;
+  void AppendChildren(const QModelIndex& parent, std::size_t depth, std::vector<SeenNode>& seen) const;
+
+  QPointer<qt::ProcessLogWidget> widget_;
+};
+
+}  // namespace quorvel::scenario
