@@ -25,6 +25,7 @@ constexpr int kRows = 1'000'000;
 constexpr int kStations = 3'000;
 constexpr int kRunsOfTree = 25'000;
 constexpr int kGroupsOfRun = 4;  // with its run: 125,000 nodes
+constexpr int kRowsBefore = 200;
 constexpr double kLimit = 1.5;
 
 // The values, made on the fly by both sides alike.
@@ -53,9 +54,9 @@ void PumpUntilPainted(const PaintCounter& paints) {
   QApplication::processEvents();
 }
 
-// A pane on the screen, its first empty painting done.
+// A pane on the screen as it is in use: it showed something before, so that its scroll bars are there.
 template <class Pane>
-void ShowEmpty(Pane& pane, PaintCounter& paints) {
+void ShowInUse(Pane& pane, PaintCounter& paints) {
   pane.resize(900, 700);
   pane.viewport()->installEventFilter(&paints);
   pane.show();
@@ -63,11 +64,9 @@ void ShowEmpty(Pane& pane, PaintCounter& paints) {
   paints.count = 0;
 }
 
-int g_repaints = 0;  // most repaints that one fill cost
-
-void NoteRepaints(const PaintCounter& paints) {
-  g_repaints = std::max(g_repaints, paints.count);
-}
+// The most repaints that one fill cost.
+int g_listRepaints = 0;
+int g_treeRepaints = 0;
 
 class StationRows : public widgets::RowSource {
  public:
@@ -90,11 +89,25 @@ class StationRows : public widgets::RowSource {
   datasource::Column<double> dates_;
 };
 
+datasource::TextColumn Repeated(std::string_view text, int rows) {
+  datasource::TextColumnBuilder builder;
+  for (int row = 0; row < rows; ++row) builder.Append(text);
+  return builder.Take();
+}
+
+void FillBefore(widgets::ListView& list) {
+  list.SetRows(std::make_shared<StationRows>(
+      datasource::Column(std::vector<std::int32_t>(kRowsBefore)), Repeated("What was shown before", kRowsBefore),
+      Repeated("Ok", kRowsBefore), datasource::Column(std::vector<double>(kRowsBefore))));
+}
+
 double FillListModel() {
   widgets::ListView list("lvMotherList");
   qt::ListPane pane(list);
   PaintCounter paints;
-  ShowEmpty(pane, paints);
+  list.SetHeaders({{.caption = "Before"}});
+  FillBefore(list);
+  ShowInUse(pane, paints);
   const double seconds = Seconds([&] {
     std::vector<std::int32_t> ids;
     std::vector<double> dates;
@@ -117,7 +130,7 @@ double FillListModel() {
     });
     PumpUntilPainted(paints);
   });
-  NoteRepaints(paints);
+  g_listRepaints = std::max(g_listRepaints, paints.count);
   return seconds;
 }
 
@@ -159,7 +172,8 @@ double FillTreeModel() {
   widgets::TreeView tree("tvMotherList");
   qt::TreePane pane(tree, {});
   PaintCounter paints;
-  ShowEmpty(pane, paints);
+  for (int node = 0; node < kRowsBefore; ++node) tree.Add(NodeId::kNone, "before", "What was shown before", "Process");
+  ShowInUse(pane, paints);
   const double seconds = Seconds([&] {
     tree.InBatch([&] {
       tree.Clear();
@@ -168,7 +182,7 @@ double FillTreeModel() {
     });
     PumpUntilPainted(paints);
   });
-  NoteRepaints(paints);
+  g_treeRepaints = std::max(g_treeRepaints, paints.count);
   return seconds;
 }
 
@@ -204,6 +218,6 @@ int main(int argc, char** argv) {
                             bench::Compare(FillListModel, FillListVectors), kLimit);
   kept &= bench::Report("125,000 nodes into the tree, painted; base: vectors",
                         bench::Compare(FillTreeModel, FillTreeVectors), kLimit);
-  std::printf("repaints per fill: %d (limit 1)\n", g_repaints);
-  return kept && g_repaints == 1 ? 0 : 1;
+  std::printf("repaints of a fill: list %d, tree %d (limit 1)\n", g_listRepaints, g_treeRepaints);
+  return kept && g_listRepaints == 1 && g_treeRepaints == 1 ? 0 : 1;
 }

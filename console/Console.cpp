@@ -1,0 +1,81 @@
+#include "console/Console.h"
+
+#include <QApplication>
+#include <iostream>
+
+#include "console/Appearance.h"
+#include "console/ConsoleOptions.h"
+#include "console/ConsoleWindow.h"
+#include "console/HistorySession.h"
+#include "console/ScenarioRun.h"
+#include "qt/Convert.h"
+
+namespace quorvel::console {
+namespace {
+
+// Nobody sits in front of the window.
+bool IsUnattended() {
+  return QGuiApplication::platformName() == "offscreen" || QGuiApplication::platformName() == "minimal";
+}
+
+// Off-screen, Qt complains of each thing that only a window manager does.
+void DropOffscreenNoise() {
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (text.startsWith("This plugin does not support")) return;
+    std::cerr << qt::FromQt(qFormatLogMessage(type, context, text)) << std::endl;
+  });
+}
+
+int ExitCode(bool ok) {
+  return ok ? 0 : 1;
+}
+
+int ShowWindow(const ConsoleOptions& options) {
+  const bool unattended = IsUnattended();
+  const Audience audience = unattended                     ? Audience::kTerminal
+                            : options.screenshot.isEmpty() ? Audience::kWindow
+                                                           : Audience::kBoth;
+  ConsoleWindow window;
+  HistorySession session(window, options.fromType, options.processId, audience);
+  window.resize(options.size);
+  window.show();
+  bool ok = options.history.isEmpty() || session.OpenHistory(options.history);
+  if (ok && !options.tab.isEmpty()) ok = session.ChooseTab(options.tab);
+  if (!options.screenshot.isEmpty()) ok = WritePicture(window, options.screenshot) && ok;
+  // A person goes on from here; without one the picture was all there was to do.
+  return unattended ? ExitCode(ok) : QApplication::exec();
+}
+
+}  // namespace
+
+bool WritePicture(QWidget& window, const QString& file) {
+  QCoreApplication::processEvents();
+  const bool written = window.grab().save(file);
+  if (written) {
+    std::cout << qt::FromQt(file) << std::endl;
+  } else {
+    std::cerr << qt::FromQt(file) << ": The picture cannot be written" << std::endl;
+  }
+  return written;
+}
+
+int RunConsole(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+  const CommandLine commandLine = ReadCommandLine(arguments);
+  if (!commandLine.options) {
+    (commandLine.exitCode == 0 ? std::cout : std::cerr) << qt::FromQt(commandLine.text) << std::flush;
+    return commandLine.exitCode;
+  }
+  const ConsoleOptions& options = *commandLine.options;
+  if (options.headless) return RunScenarioHeadless(options);
+
+  const QApplication application(argc, argv);
+  if (IsUnattended()) DropOffscreenNoise();
+  QCoreApplication::setApplicationName("Quorvel");
+  QCoreApplication::setApplicationVersion(QUORVEL_VERSION);
+  SetAppearance(options.dark);
+  return options.scenario.isEmpty() ? ShowWindow(options) : RunScenarioOnQt(options);
+}
+
+}  // namespace quorvel::console

@@ -1,0 +1,16 @@
+// The console as a program: reads its arguments, opens its window, writes a picture of it.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+namespace quorvel::console {
+
+// Exit code 0: all went well; 1: the history could not be opened, the tab not chosen, the scenario not run or the
+// picture not written; 2: the arguments are not understood.
+int RunConsole(int argc, char** argv);
+
+// Writes what the window shows as a PNG file and prints its name; says on the terminal when it cannot.
+bool WritePicture(QWidget& window, const QString& file);
+
+}  // namespace quorvel::console

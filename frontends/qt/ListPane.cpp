@@ -1,0 +1,184 @@
+#include "qt/ListPane.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QProxyStyle>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <optional>
+
+#include "qt/Convert.h"
+#include "qt/Guard.h"
+#include "qt/ItemDelegate.h"
+
+namespace quorvel::qt {
+namespace {
+
+// Headers with the air that the rows below them have.
+class RoomyHeader final : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    constexpr int kMargin = 5;
+    return metric == PM_HeaderMargin ? kMargin : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
+}  // namespace
+
+using widgets::RowRange;
+using widgets::RowRanges;
+
+ListPane::ListPane(widgets::ListView& list, QWidget* parent) : QTableView(parent), list_(list), model_(list) {
+  setItemDelegate(new ItemDelegate(this));
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setShowGrid(false);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  setCornerButtonEnabled(false);
+  setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollMode(ScrollPerPixel);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setMinimumSectionSize(24);
+  auto* const roomy = new RoomyHeader;
+  roomy->setParent(horizontalHeader());
+  horizontalHeader()->setStyle(roomy);
+  FitRowHeight();
+  setModel(&model_);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int width) {
+    if (following_) return;
+    Guarded([&] { list_.SetHeaderWidth(static_cast<std::size_t>(column), ToTwips(width)); });
+  });
+  list_.ObserveList(this);
+  ListPane::ListReset();
+}
+
+ListPane::~ListPane() {
+  list_.ObserveList(nullptr);
+}
+
+void ListPane::ListReset() {
+  Guarded([&] {
+    const QScopedValueRollback following(following_, true);
+    model_.Reset();
+    {
+      // The layout below places all columns; told of each width, the table would paint a second time for them.
+      const QSignalBlocker quiet(horizontalHeader());
+      FollowHeaders();
+    }
+    if (!list_.SelectedItem()) scrollToTop();
+    FollowSelection();
+    scheduleDelayedItemsLayout();
+    executeDelayedItemsLayout();
+  });
+}
+
+void ListPane::HeadersChanged() {
+  Guarded([&] {
+    const QScopedValueRollback following(following_, true);
+    const bool sameColumns = model_.HeadersChanged();
+    FollowHeaders();
+    if (!sameColumns) FollowSelection();
+  });
+}
+
+void ListPane::RowsChanged(RowRange rows) {
+  Guarded([&] { model_.RowsChanged(rows); });
+}
+
+void ListPane::ListSelectionChanged() {
+  if (following_) return;
+  Guarded([&] { FollowSelection(); });
+}
+
+void ListPane::FollowHeaders() {
+  for (std::size_t column = 0; column < list_.headers().size(); ++column) {
+    horizontalHeader()->resizeSection(static_cast<int>(column), ToPixels(list_.headers()[column].width));
+  }
+}
+
+void ListPane::FollowSelection() {
+  const QScopedValueRollback following(following_, true);
+  const int lastColumn = static_cast<int>(list_.headers().size()) - 1;
+  if (lastColumn < 0) return;
+  QItemSelection selection;
+  for (const RowRange& rows : list_.Selection().ranges()) {
+    selection.select(model_.index(static_cast<int>(rows.first), 0),
+                     model_.index(static_cast<int>(rows.last) - 1, lastColumn));
+  }
+  selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  const auto item = list_.SelectedItem();
+  selectionModel()->setCurrentIndex(item ? model_.index(static_cast<int>(*item), 0) : QModelIndex(),
+                                    QItemSelectionModel::NoUpdate);
+}
+
+void ListPane::WriteSelection() {
+  RowRanges rows;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    rows.Add({static_cast<std::size_t>(range.top()), static_cast<std::size_t>(range.bottom()) + 1});
+  }
+  std::optional<std::size_t> item;
+  if (currentIndex().isValid()) item = static_cast<std::size_t>(currentIndex().row());
+  if (item && !rows.Contains(*item)) item.reset();
+  const QScopedValueRollback following(following_, true);
+  list_.SetSelection(std::move(rows), item);
+}
+
+void ListPane::initViewItemOption(QStyleOptionViewItem* option) const {
+  Guarded([&] {
+    QTableView::initViewItemOption(option);
+    ItemDelegate::QuietenUnlessFocused(*option, *this);
+  });
+}
+
+QModelIndex ListPane::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  // Rows are what there is to move among: cells of a row are not.
+  switch (action) {
+    case MoveHome:
+      return model_.index(0, 0);
+    case MoveEnd:
+      return model_.index(model_.rowCount({}) - 1, 0);
+    case MoveLeft:
+      horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
+      return currentIndex();
+    case MoveRight:
+      horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+      return currentIndex();
+    default:
+      return QTableView::moveCursor(action, modifiers);
+  }
+}
+
+void ListPane::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  Guarded([&] {
+    QTableView::selectionChanged(selected, deselected);
+    if (!following_) WriteSelection();
+  });
+}
+
+void ListPane::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  Guarded([&] {
+    QTableView::currentChanged(current, previous);
+    if (!following_) WriteSelection();
+  });
+}
+
+void ListPane::changeEvent(QEvent* event) {
+  Guarded([&] {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitRowHeight();
+  });
+}
+
+void ListPane::FitRowHeight() {
+  const int height = ItemDelegate::RowHeight(*this);
+  verticalHeader()->setMinimumSectionSize(height);
+  verticalHeader()->setDefaultSectionSize(height);
+}
+
+}  // namespace quorvel::qt

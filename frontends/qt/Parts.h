@@ -1,0 +1,60 @@
+// Small widgets of the viewer that Qt does not have as such.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+class QToolButton;
+
+namespace quorvel::qt {
+
+// The two buttons of an up-down; they repeat while they are held.
+class UpDownButtons final : public QWidget {
+ public:
+  // `step` is called with +1 and -1.
+  UpDownButtons(std::function<void(int)> step, QWidget* parent);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QToolButton* up_;
+  QToolButton* down_;
+};
+
+// A frame whose caption stands along its top edge as the head of a section.
+class SectionFrame final : public QWidget {
+ public:
+  using QWidget::QWidget;
+  // `height`: how much of the frame the caption has for itself.
+  void SetCaption(const QString& caption, int height);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString caption_;
+  int captionHeight_ = 0;
+};
+
+// The grip between two panes. Pixels are counted from its left edge.
+class SplitterGrip final : public QWidget {
+ public:
+  struct Gestures {
+    std::function<void()> begin;
+    std::function<void(int)> move;
+    std::function<void()> end;
+  };
+  SplitterGrip(Gestures gestures, QWidget* parent);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Gestures gestures_;
+};
+
+}  // namespace quorvel::qt

@@ -1,0 +1,74 @@
+// The history viewer as a widget of Qt that a form can hold.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "control/ucProcessLog.h"
+#include "qt/Binding.h"
+#include "qt/QtPlatform.h"
+
+class QAction;
+class QComboBox;
+class QDateTimeEdit;
+class QLineEdit;
+
+namespace quorvel::qt {
+
+class ListPane;
+class SectionFrame;
+class TreePane;
+
+// Start here: place it on a form, set the properties of `control()`, call one of its m_GetLog methods. Every widget
+// inside carries the name of the control that it draws as its object name.
+class ProcessLogWidget final : public QWidget {
+ public:
+  // With a platform of its own, see QtPlatform. `factory` must outlive the widget.
+  explicit ProcessLogWidget(datasource::RecordSourceFactory& factory, QWidget* parent = nullptr);
+  // With another platform, which must outlive the widget too.
+  ProcessLogWidget(datasource::RecordSourceFactory& factory, Platform& platform, QWidget* parent = nullptr);
+  ~ProcessLogWidget() override;
+
+  ucProcessLog& control() { return control_; }
+  TreePane& tree() { return *tree_; }
+  ListPane& list() { return *list_; }
+
+  // Reads the history again; F5 while the focus is in the widget. For the host's menu.
+  QAction& refreshAction() { return *refresh_; }
+
+  QSize sizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void MakeOptions();
+  void MakePeriodOptions();
+  void MakeTabs();
+  void MakePanes();
+  void MakeSplitter();
+  void MakeScrollBars();
+  void MakeRefresh();
+  void OrderTabKey();
+
+  // A widget inside `parent` that is kept like its control.
+  template <class Widget, class Model>
+  Widget* Make(Model& model, QWidget* parent);
+  QComboBox* MakeCombo(widgets::ComboBox& model, void (ucProcessLog::*click)());
+  QDateTimeEdit* MakePicker(widgets::DateTimePicker& model, const QString& format);
+  void Bind(widgets::Control& model, QWidget& widget, std::function<void()> content = {});
+
+  QtPlatform ownPlatform_;
+  ucProcessLog control_;
+  ProcessLogControls& c_;
+  QWidget* outer_;
+  QWidget* options_;
+  SectionFrame* section_;
+  TreePane* tree_ = nullptr;
+  ListPane* list_ = nullptr;
+  QAction* refresh_;
+  std::vector<std::unique_ptr<Binding>> bindings_;
+};
+
+}  // namespace quorvel::qt

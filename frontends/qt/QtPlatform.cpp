@@ -1,0 +1,68 @@
+#include "qt/QtPlatform.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QUrl>
+#include <string>
+#include <system_error>
+
+#include "platform/Error.h"
+#include "qt/Convert.h"
+
+namespace quorvel::qt {
+
+QtPlatform::~QtPlatform() {
+  if (pointer_ == MousePointer::kHourglass) QGuiApplication::restoreOverrideCursor();
+}
+
+void QtPlatform::ShowMessage(std::string_view text, std::string_view title) {
+  QMessageBox box(QMessageBox::NoIcon, ToQt(title), ToQt(text), QMessageBox::Ok, widget_ ? widget_->window() : nullptr);
+  box.setTextFormat(Qt::PlainText);
+  // Nobody should look for the button with an hourglass.
+  const MousePointer pointer = pointer_;
+  SetMousePointer(MousePointer::kDefault);
+  box.exec();
+  SetMousePointer(pointer);
+}
+
+void QtPlatform::SetMousePointer(MousePointer pointer) {
+  if (pointer == pointer_) return;
+  pointer_ = pointer;
+  if (pointer == MousePointer::kHourglass) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+void QtPlatform::ClearClipboard() {
+  QGuiApplication::clipboard()->clear();
+}
+
+void QtPlatform::SetClipboardText(std::string_view text) {
+  QGuiApplication::clipboard()->setText(ToQt(text));
+}
+
+void QtPlatform::OpenFile(const std::filesystem::path& file) {
+  std::error_code code;
+  if (!std::filesystem::exists(file, code)) throw Error(SystemError::kFileNotFound, file.string() + ": File not found");
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(file.string())))) {
+    throw Error(SystemError::kInvalidCall, file.string() + ": No program opens this file");
+  }
+}
+
+void QtPlatform::SetHostStatusText(std::string_view text) {
+  auto* const bar = widget_ ? widget_->window()->findChild<QStatusBar*>(QStringLiteral("stStatusBar")) : nullptr;
+  if (bar == nullptr) throw Error(SystemError::kUnsupportedMember, "The host has no status bar stStatusBar");
+  if (auto* const panel = bar->findChild<QLabel*>()) {
+    panel->setText(ToQt(text));
+  } else {
+    bar->showMessage(ToQt(text));
+  }
+}
+
+}  // namespace quorvel::qt

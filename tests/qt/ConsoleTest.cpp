@@ -1,0 +1,107 @@
+// The console: its command line, and what becomes of histories that open and of those that do not.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <fstream>
+
+#include "console/Console.h"
+#include "console/ConsoleOptions.h"
+#include "console/HistorySession.h"
+#include "qt/TreePane.h"
+#include "support/SmallHistory.h"
+
+namespace quorvel::console {
+namespace {
+
+using testing::HasSubstr;
+using testing::internal::CaptureStderr;
+using testing::internal::GetCapturedStderr;
+
+CommandLine Read(QStringList arguments) {
+  arguments.prepend("console");
+  return ReadCommandLine(arguments);
+}
+
+TEST(CommandLine, IsUnderstoodOrExplained) {
+  const CommandLine plain = Read({});
+  ASSERT_TRUE(plain.options);
+  EXPECT_EQ(plain.options->fromType, tlFromType::tlOneProcess);
+  EXPECT_EQ(plain.options->processId, -1);
+  const CommandLine full = Read({"--history", "sqlite:a.db", "--from-type", "tlOneAlarm", "--process-id", "12",
+                                 "--size", "640x480", "--dark", "--screenshot=x.png"});
+  ASSERT_TRUE(full.options);
+  EXPECT_EQ(full.options->fromType, tlFromType::tlOneAlarm);
+  EXPECT_EQ(full.options->size, QSize(640, 480));
+  EXPECT_TRUE(full.options->dark);
+  EXPECT_EQ(full.options->screenshot, "x.png");
+  for (const QStringList& wrong : {QStringList{"--from-type", "tlNothing"},
+                                   {"--size", "640"},
+                                   {"--size", "0x1"},
+                                   {"--process-id", "x"},
+                                   {"--no-such"},
+                                   {"stray"},
+                                   {"--headless"},
+                                   {"--history"}}) {
+    const CommandLine read = Read(wrong);
+    EXPECT_FALSE(read.options) << wrong.join(' ').toStdString();
+    EXPECT_EQ(read.exitCode, 2);
+    EXPECT_FALSE(read.text.isEmpty());
+  }
+  const CommandLine help = Read({"--help"});
+  EXPECT_EQ(help.exitCode, 0);
+  EXPECT_THAT(help.text.toStdString(), HasSubstr("--screenshot"));
+}
+
+class SessionTest : public testing::Test {
+ protected:
+  SessionTest() { window.show(); }
+  int Roots() { return static_cast<qt::ProcessLogWidget*>(window.centralWidget())->tree().model()->rowCount(); }
+  std::string Status() { return window.findChild<QLabel*>("Panel1")->text().toStdString(); }
+  // False, and what is said about it.
+  std::string Refusal(const QString& url) {
+    CaptureStderr();
+    const bool shown = session.OpenHistory(url);
+    const std::string said = GetCapturedStderr();
+    EXPECT_FALSE(shown);
+    return said;
+  }
+
+  test::SmallHistory history;
+  test::TemporaryFolder folder;
+  ConsoleWindow window;
+  HistorySession session{window, tlFromType::tlOneProcess, -1, Audience::kTerminal};
+};
+
+TEST_F(SessionTest, StaysUsableWhateverItIsAskedToOpen) {
+  EXPECT_THAT(Refusal("sqlite:/no/such.db"), HasSubstr("/no/such.db"));
+  const std::string text = folder.path() / "text.db";
+  std::ofstream(text) << "This is not a database, whatever its name says.";
+  EXPECT_THAT(Refusal(QString::fromStdString("sqlite:" + text)), HasSubstr(text));
+  EXPECT_EQ(Roots(), 0);
+  const QString good = QString::fromStdString(history.url());
+  ASSERT_TRUE(session.OpenHistory(good));
+  EXPECT_GT(Roots(), 0);
+  EXPECT_THAT(Status(), HasSubstr("element"));
+  EXPECT_THAT(window.windowTitle().toStdString(), HasSubstr(history.file().filename().string()));
+  const int roots = Roots();
+  Refusal("sqlite:/no/such.db");
+  EXPECT_EQ(Roots(), roots) << "the history before is still shown";
+  EXPECT_TRUE(session.OpenHistory(good)) << "and can be opened again";
+  CaptureStderr();
+  EXPECT_FALSE(session.ChooseTab("No such tab"));
+  EXPECT_THAT(GetCapturedStderr(), HasSubstr("No such tab"));
+  EXPECT_TRUE(session.ChooseTab("Processes"));
+}
+
+TEST_F(SessionTest, WritesAPictureOfItself) {
+  const QString file = QString::fromStdString(folder.path() / "console.png");
+  EXPECT_TRUE(WritePicture(window, file));
+  EXPECT_EQ(QImage(file).size(), window.size());
+  CaptureStderr();
+  EXPECT_FALSE(WritePicture(window, "/no/such/folder/console.png"));
+  EXPECT_THAT(GetCapturedStderr(), HasSubstr("/no/such/folder/console.png"));
+}
+
+}  // namespace
+}  // namespace quorvel::console

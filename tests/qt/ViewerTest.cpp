@@ -1,0 +1,183 @@
+// The viewer as a widget: gestures on real widgets reach the control, and what the control says is drawn.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolButton>
+#include <stdexcept>
+
+#include "qt/Guard.h"
+#include "qt/ListPane.h"
+#include "qt/ProcessLogWidget.h"
+#include "qt/TreePane.h"
+#include "support/FakeSources.h"
+#include "support/RecordingPlatform.h"
+
+namespace quorvel::qt {
+namespace {
+
+using test::StationRows;
+using testing::HasSubstr;
+
+class ViewerTest : public testing::Test {
+ protected:
+  ViewerTest() {
+    StationRows rows;
+    rows.Station(12, 345, 7, StationRows::kOk).Station(30, 343, 7, StationRows::kNotOk);
+    history.processLogs = rows.Records();
+    history.processLogsCount = rows.count();
+    form.setCentralWidget(viewer);
+    viewer->control().p_Connect(1);
+    viewer->control().p_FromType(tlFromType::tlOneProcess);
+    form.resize(1000, 600);
+    form.show();
+    viewer->control().m_GetLogByProcess();
+    QCoreApplication::processEvents();
+  }
+  ~ViewerTest() override { delete viewer; }
+
+  template <class Widget>
+  Widget& Find(const char* name) {
+    auto* const widget = form.findChild<Widget*>(name);
+    if (widget == nullptr) throw std::out_of_range(name);
+    return *widget;
+  }
+  ProcessLogControls& controls() { return viewer->control().controls(); }
+  void ChooseAll() {
+    Find<QComboBox>("cboState").setFocus();
+    QTest::keyClick(&Find<QComboBox>("cboState"), Qt::Key_Home);
+  }
+  std::size_t Queries() {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        history.calls, [](const std::string& call) { return call.starts_with("GetProcessLogs "); }));
+  }
+
+  test::RecordingPlatform platform;
+  test::FakeHistory history;
+  test::FakeFactory factory{history};
+  QMainWindow form;
+  ProcessLogWidget* viewer = new ProcessLogWidget(factory, platform);
+};
+
+TEST_F(ViewerTest, OptionsAreTypedAndChosenLikeInAnyForm) {
+  EXPECT_FALSE(Find<QLineEdit>("txtDuring").isVisible()) << "the last execution needs no period";
+  ChooseAll();
+  EXPECT_EQ(controls().cboState.selectedText(), "All");
+  auto& length = Find<QLineEdit>("txtDuring");
+  ASSERT_TRUE(length.isVisible());
+  length.selectAll();
+  QTest::keyClicks(&length, "150");
+  EXPECT_EQ(controls().txtDuring.text(), "150");
+  QTest::keyClick(&Find<QComboBox>("cboDuringUnit"), Qt::Key_End);
+  EXPECT_EQ(length.text(), "99") << "cut as soon as a unit is chosen";
+  Find<QDateTimeEdit>("dtpDate").setDate(QDate(2026, 3, 29));
+  Find<QDateTimeEdit>("dtpHour").setTime(QTime(2, 30, 5));  // does not exist where summer time begins on that day
+  EXPECT_EQ(FormatFixedDateTime(controls().dtpDate.value() + controls().dtpHour.value()), "2026-03-29 02:30:05");
+  const auto buttons = Find<QWidget>("updDuring").findChildren<QToolButton*>();
+  QTest::mouseClick(buttons.last(), Qt::LeftButton);
+  EXPECT_EQ(length.text(), QString::fromStdString(std::to_string(controls().updDuring.value())));
+}
+
+TEST_F(ViewerTest, RefreshByKeyAndButtonKeepsWhatIsDrawnInStep) {
+  EXPECT_EQ(Queries(), 1U);
+  viewer->tree().setFocus();
+  QTest::keyClick(&viewer->tree(), Qt::Key_F5);
+  EXPECT_EQ(Queries(), 2U);
+  QTest::keyClick(&viewer->tree(), Qt::Key_R, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Queries() == 3; })) << "by the access key, once the button came up again";
+  EXPECT_EQ(viewer->tree().model()->rowCount(), 2);
+  EXPECT_EQ(viewer->list().model()->index(0, 0).data().toString(), "2026-11-20 09:00:00 (Batch No.345)");
+  QTest::keyClick(&viewer->tree(), Qt::Key_Down);
+  EXPECT_EQ(viewer->list().model()->index(0, 0).data().toString(), "2026-11-20 07:00:00 (Batch No.343)");
+}
+
+TEST_F(ViewerTest, TheSplitterFollowsThePointer) {
+  auto& grip = Find<QWidget>("imgSplitter");
+  const int before = viewer->tree().width();
+  QTest::mousePress(&grip, Qt::LeftButton, {}, QPoint(2, 50));
+  QTest::mouseMove(&grip, QPoint(82, 50));
+  QMouseEvent move(QEvent::MouseMove, QPointF(82, 50), grip.mapToGlobal(QPointF(82, 50)), Qt::NoButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QCoreApplication::sendEvent(&grip, &move);
+  EXPECT_TRUE(Find<QWidget>("picSplitter").isVisible());
+  QTest::mouseRelease(&grip, Qt::LeftButton, {}, QPoint(82, 50));
+  EXPECT_FALSE(Find<QWidget>("picSplitter").isVisible());
+  EXPECT_EQ(viewer->tree().width(), before + 82);
+}
+
+TEST_F(ViewerTest, ScrollsWhatDoesNotFit) {
+  EXPECT_FALSE(Find<QScrollBar>("HScroll").isVisible());
+  form.resize(300, 200);
+  QCoreApplication::processEvents();
+  auto& bar = Find<QScrollBar>("VScroll");
+  ASSERT_TRUE(bar.isVisible());
+  const int before = Find<QWidget>("fraProcessLog").y();
+  bar.setValue(bar.maximum());
+  EXPECT_LT(Find<QWidget>("fraProcessLog").y(), before);
+}
+
+TEST_F(ViewerTest, TheTabKeyGoesThroughTheOptionsIntoThePanes) {
+  ChooseAll();
+  QStringList visited;
+  QWidget* at = &Find<QComboBox>("cboState");
+  for (int i = 0; i < 20 && visited.size() < 7; ++i) {
+    QTest::keyClick(at, Qt::Key_Tab);  // in a date it goes from part to part first
+    if (at == QApplication::focusWidget()) continue;
+    at = QApplication::focusWidget();
+    visited.append(at->objectName());
+  }
+  EXPECT_EQ(visited.join(' ').toStdString(),
+            "dtpDate dtpHour txtDuring cboDuringUnit cmdRefresh tvMotherList lvMotherList");
+  for (const char* name : {"tvMotherList", "lvMotherList", "sstProcessLog", "dtpHour"}) {
+    EXPECT_FALSE(Find<QWidget>(name).accessibleName().isEmpty()) << name;
+  }
+}
+
+TEST(QtPlatform, WritesIntoTheHostsFirstPanelWhenThereIsOne) {
+  QMainWindow form;
+  auto* const widget = new QWidget(&form);
+  QtPlatform platform(*widget);
+  try {
+    platform.SetHostStatusText("1 element");
+    FAIL() << "there is no status bar";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), 438);
+  }
+  form.statusBar()->setObjectName("stStatusBar");
+  platform.SetHostStatusText("1 element");
+  EXPECT_EQ(form.statusBar()->currentMessage(), "1 element");
+  auto* const panel = new QLabel;
+  form.statusBar()->addWidget(panel);
+  platform.SetHostStatusText("2 elements");
+  EXPECT_EQ(panel->text(), "2 elements");
+  try {
+    platform.OpenFile("/no/such/file");
+    FAIL() << "there is no such file";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), 53);
+  }
+}
+
+TEST(Guard, EndsEveryExceptionAtTheBoundary) {
+  static std::string logged;
+  const auto before = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString& text) { logged += text.toStdString() + "\n"; });
+  Guarded([] { throw Error(SystemError::kOverflow, "too much"); });
+  EXPECT_EQ(GuardedOr(7, []() -> int { throw std::bad_alloc(); }), 7);
+  Guarded([] { throw 1; });
+  qInstallMessageHandler(before);
+  EXPECT_THAT(logged, HasSubstr("too much (6)\n"));
+  EXPECT_THAT(logged, HasSubstr("(7)\n"));
+}
+
+}  // namespace
+}  // namespace quorvel::qt
