@@ -26,6 +26,12 @@ void DropOffscreenNoise() {
   });
 }
 
+// Qt ends the program when it finds no display; so it is not asked to look for one that cannot be there.
+bool HasDisplay() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
 int ExitCode(bool ok) {
   return ok ? 0 : 1;
 }
@@ -69,6 +75,13 @@ int RunConsole(int argc, char** argv) {
   }
   const ConsoleOptions& options = *commandLine.options;
   if (options.headless) return RunScenarioHeadless(options);
+  if (!HasDisplay()) {
+    if (options.screenshot.isEmpty() && options.scenario.isEmpty()) {
+      std::cerr << "There is no display. --screenshot FILE.png draws the window off-screen." << std::endl;
+      return ExitCode(false);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
 
   const QApplication application(argc, argv);
   if (IsUnattended()) DropOffscreenNoise();

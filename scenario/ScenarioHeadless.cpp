@@ -110,8 +110,7 @@ class HeadlessViewer : public ViewerPort {
   }
 
   void Spin(widgets::UpDown& upDown, bool up) override {
-    upDown.SetValue(upDown.value() + (up ? 1 : -1));
-    if (&upDown == &c_.updDuring) viewer_.updDuring_Change();
+    if (&upDown == &c_.updDuring) up ? viewer_.updDuring_UpClick() : viewer_.updDuring_DownClick();
   }
 
   void SetOpen(NodeId node, bool open) override {

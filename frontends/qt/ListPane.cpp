@@ -100,6 +100,9 @@ void ListPane::FollowHeaders() {
   for (std::size_t column = 0; column < list_.headers().size(); ++column) {
     horizontalHeader()->resizeSection(static_cast<int>(column), ToPixels(list_.headers()[column].width));
   }
+  // A single column as wide as the list stands a frame and a scroll bar over; scrolling would bring nothing to light.
+  const bool fits = list_.headers().size() == 1 && list_.headers().front().width <= list_.bounds().width;
+  setHorizontalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
 }
 
 void ListPane::FollowSelection() {

@@ -14,6 +14,8 @@ class ListPane final : public QTableView, public widgets::ListObserver {
   // `list` must outlive the pane.
   explicit ListPane(widgets::ListView& list, QWidget* parent = nullptr);
   ~ListPane() override;
+  ListPane(const ListPane&) = delete;
+  ListPane& operator=(const ListPane&) = delete;
 
   void ListReset() override;
   void HeadersChanged() override;

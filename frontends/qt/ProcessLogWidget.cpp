@@ -149,11 +149,7 @@ void ProcessLogWidget::MakePeriodOptions() {
   during->setBuddy(length);
   On(length, &QLineEdit::textEdited, this, [this](const QString& text) { c_.txtDuring.SetText(FromQt(text)); });
   auto* const step = new UpDownButtons(
-      [this](int by) {
-        c_.updDuring.SetValue(c_.updDuring.value() + by);
-        control_.updDuring_Change();
-      },
-      options_);
+      [this](int by) { by > 0 ? control_.updDuring_UpClick() : control_.updDuring_DownClick(); }, options_);
   Bind(c_.updDuring, *step);
   MakeCombo(c_.cboDuringUnit, &ucProcessLog::cboDuringUnit_Click);
 }

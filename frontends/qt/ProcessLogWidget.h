@@ -29,6 +29,8 @@ class ProcessLogWidget final : public QWidget {
   // With another platform, which must outlive the widget too.
   ProcessLogWidget(datasource::RecordSourceFactory& factory, Platform& platform, QWidget* parent = nullptr);
   ~ProcessLogWidget() override;
+  ProcessLogWidget(const ProcessLogWidget&) = delete;
+  ProcessLogWidget& operator=(const ProcessLogWidget&) = delete;
 
   ucProcessLog& control() { return control_; }
   TreePane& tree() { return *tree_; }

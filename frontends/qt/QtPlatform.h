@@ -16,6 +16,8 @@ class QtPlatform : public StandardPlatform {
   explicit QtPlatform(QWidget& widget) : widget_(&widget) {}
   // Gives the default pointer back.
   ~QtPlatform() override;
+  QtPlatform(const QtPlatform&) = delete;
+  QtPlatform& operator=(const QtPlatform&) = delete;
 
   void ShowMessage(std::string_view text, std::string_view title) override;
   void SetMousePointer(MousePointer pointer) override;

@@ -22,6 +22,8 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   // `tree` must outlive the pane.
   TreePane(widgets::TreeView& tree, TreeGestures gestures, QWidget* parent = nullptr);
   ~TreePane() override;
+  TreePane(const TreePane&) = delete;
+  TreePane& operator=(const TreePane&) = delete;
 
   // The model of the items, for look-ups between nodes and places on the screen.
   const TreeModel& nodes() const { return model_; }

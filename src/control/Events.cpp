@@ -26,10 +26,9 @@ void ucProcessLog::sstProcessLog_Click() {
     const View view = ViewOfTab(f_tlFromType, caption);
     // The key needs the tree that is about to go.
     const std::string place = GetNextContextKeyInLogs(SelectedKey(), caption);
-    InitListView();
-    controls_.tvMotherList.Clear();
+    ClearPanes();
     InitStateListByTab();
-    ControlsVisible(static_cast<std::int32_t>(ReadOptions(controls_, StateFilter::kAll).state));
+    ControlsVisible(static_cast<std::int32_t>(StateFilterOf(controls_.cboState.selectedText()).value()));
     BuildView(view, place);
   });
 }
@@ -37,7 +36,7 @@ void ucProcessLog::sstProcessLog_Click() {
 void ucProcessLog::cmdRefresh_Click() {
   Reporting(errors_, "Quorvel: ucProcessLog.cmdRefresh_Click", [&] {
     const Hourglass hourglass(platform_);
-    const std::string place(SelectedKey());
+    const std::string place = SelectedKey();
     if (f_tlFromType == tlFromType::tlOneProcess) {
       StateFilter state = StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll);
       m_GetLogAll(state);
@@ -60,18 +59,19 @@ void ucProcessLog::cboDuringUnit_Click() {
   Reporting(errors_, "Quorvel: ucProcessLog.cboDuringUnit_Click", [&] { LimitPeriod(controls_); });
 }
 
-void ucProcessLog::updDuring_Change() {
-  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_Change",
-            [&] { controls_.txtDuring.SetText(std::to_string(controls_.updDuring.value())); });
+void ucProcessLog::updDuring_UpClick() {
+  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_UpClick", [&] { StepPeriod(controls_, 1); });
+}
+
+void ucProcessLog::updDuring_DownClick() {
+  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_DownClick", [&] { StepPeriod(controls_, -1); });
 }
 
 void ucProcessLog::tvMotherList_Expand(NodeId node) {
   Reporting(errors_, "Quorvel: ucProcessLog.tvMotherList_Expand", [&] {
     const Hourglass hourglass(platform_);
-    controls_.tvMotherList.InBatch([&] {
-      LoadNode(node);
-      controls_.tvMotherList.SetExpanded(node, true);
-    });
+    LoadNode(node);
+    controls_.tvMotherList.SetExpanded(node, true);
   });
 }
 

@@ -9,7 +9,12 @@ namespace quorvel {
 class Hourglass {
  public:
   explicit Hourglass(Platform& platform) : platform_(platform) { platform_.SetMousePointer(MousePointer::kHourglass); }
-  ~Hourglass() { platform_.SetMousePointer(MousePointer::kDefault); }
+  ~Hourglass() {
+    try {
+      platform_.SetMousePointer(MousePointer::kDefault);
+    } catch (...) {  // NOLINT(bugprone-empty-catch): a pointer that cannot be set is no reason to lose what was done
+    }
+  }
   Hourglass(const Hourglass&) = delete;
   Hourglass& operator=(const Hourglass&) = delete;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <iterator>
+#include <limits>
 #include <span>
 #include <system_error>
 #include <vector>
@@ -68,14 +69,24 @@ std::string_view CounterpartOf(const TabStates& states, std::string_view text) {
   return found == states.counterparts.end() ? states.otherwise : found->counterpart;
 }
 
-std::int32_t WholeNumber(std::string_view text) {
+// The number that a text stands for; one too large for 32 bits counts as the largest, whose negative is the least.
+// Nothing when it is no number.
+std::optional<std::int32_t> WholeNumber(std::string_view text) {
   std::int32_t number = 0;
   const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (code == std::errc::result_out_of_range) throw Error(SystemError::kOverflow, "Overflow: " + std::string(text));
-  if (code != std::errc() || end != text.data() + text.size()) {
-    throw Error(SystemError::kTypeMismatch, "Not a whole number: \"" + std::string(text) + "\"");
+  if (text.empty() || end != text.data() + text.size()) return std::nullopt;
+  constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
+  if (code != std::errc()) return text.front() == '-' ? -kLargest : kLargest;
+  return std::max(number, -kLargest);
+}
+
+// Length of the period. Error 13 when the text box holds no whole number.
+std::int32_t PeriodLength(const ProcessLogControls& controls) {
+  const std::optional<std::int32_t> length = WholeNumber(controls.txtDuring.text());
+  if (!length) {
+    throw Error(SystemError::kTypeMismatch, "Not a whole number: \"" + controls.txtDuring.text() + "\"");
   }
-  return number;
+  return *length;
 }
 
 DateInterval SelectedUnit(const ProcessLogControls& controls) {
@@ -124,21 +135,25 @@ void FillOptionTexts(ProcessLogControls& c) {
 
 OptionsFilter ReadOptions(const ProcessLogControls& c, StateFilter stateBefore) {
   OptionsFilter filter;
-  filter.start = c.dtpDate.value() + c.dtpHour.value();
-  filter.end = AddInterval(filter.start, SelectedUnit(c), WholeNumber(c.txtDuring.text()));
+  filter.start = AtTimeOf(c.dtpDate.value(), c.dtpHour.value());
+  filter.end = AddInterval(filter.start, SelectedUnit(c), PeriodLength(c));
   filter.state = StateFilterOf(c.cboState.selectedText()).value_or(stateBefore);
   for (const widgets::Item& item : c.lstGroupBy.items()) filter.groupBy += std::to_string(item.data);
   return filter;
 }
 
+void StepPeriod(ProcessLogControls& c, std::int32_t by) {
+  const std::optional<std::int32_t> shown = WholeNumber(c.txtDuring.text());
+  c.updDuring.SetValue(shown.value_or(c.updDuring.minimum()));
+  if (shown) c.updDuring.SetValue(c.updDuring.value() + by);
+  c.txtDuring.SetText(std::to_string(c.updDuring.value()));
+}
+
 void LimitPeriod(ProcessLogControls& c) {
   // One limit for months, days and hours alike; hosts count on it.
   c.updDuring.SetRange(1, kLongestPeriod);
-  const std::string& text = c.txtDuring.text();
-  std::int32_t number = 0;
-  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool tooLong = code == std::errc::result_out_of_range || (code == std::errc() && number > kLongestPeriod);
-  if (tooLong && end == text.data() + text.size()) c.txtDuring.SetText(std::to_string(kLongestPeriod));
+  const std::optional<std::int32_t> shown = WholeNumber(c.txtDuring.text());
+  if (shown && *shown > kLongestPeriod) c.txtDuring.SetText(std::to_string(kLongestPeriod));
 }
 
 void ShowOptions(ProcessLogControls& c, StateFilter state) {
@@ -155,7 +170,7 @@ void ShowOptions(ProcessLogControls& c, StateFilter state) {
 
 void SetPeriodStart(ProcessLogControls& c, DateValue now) {
   const DateInterval unit = SelectedUnit(c);
-  const DateValue start = AddInterval(now, unit, -WholeNumber(c.txtDuring.text()));
+  const DateValue start = AddInterval(now, unit, -PeriodLength(c));
   if (unit == DateInterval::kHours) {
     c.dtpHour.SetValue(TimePart(start));
     c.dtpDate.SetValue(DatePart(start));

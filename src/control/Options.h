@@ -32,14 +32,18 @@ void FillOptionTexts(ProcessLogControls& controls);
 // that is no whole number or does not fit, 6 for an end beyond the calendar.
 OptionsFilter ReadOptions(const ProcessLogControls& controls, StateFilter stateBefore);
 
+// Makes the period `by` units longer, within its limits. It starts from what the text box shows; from the least length
+// where that is no number.
+void StepPeriod(ProcessLogControls& controls, std::int32_t by);
+
 // Cuts the period and its up-down to the one limit that serves every unit.
 void LimitPeriod(ProcessLogControls& controls);
 
 // Shows the controls that this state and tab call for.
 void ShowOptions(ProcessLogControls& controls, StateFilter state);
 
-// Sets the start of the period so that `count` units of `unit` end now: hours to the hour, days and months from
-// midnight of the day after the one that lies so far back.
+// Sets the start of the period by its length and unit: so many hours before `now`; with days and months, midnight of
+// the day after the one that lies so far back. Error 13 when the length is no whole number.
 void SetPeriodStart(ProcessLogControls& controls, DateValue now);
 
 }  // namespace quorvel

@@ -4,17 +4,53 @@
 #include <iterator>
 #include <vector>
 
-#include "tree/NodeKey.h"
+#include "util/KeyPrefixes.h"
 #include "util/PublicFunctions.h"
 
 namespace quorvel {
 namespace {
 
+using Expand = ExpandRoutine;
+using Click = ClickRoutine;
+
 constexpr NodeRoute kRoutes[] = {
-    {tree::kProcessPrefix, 2, ExpandRoutine::kNone, ClickRoutine::kNodeProcess},        // process
-    {tree::kProcessPrefix, 4, ExpandRoutine::kNone, ClickRoutine::kNodeProcess},        // run
-    {tree::kProcessPrefix, 5, ExpandRoutine::kStateGroup, ClickRoutine::kNodeProcess},  // state group
-    {tree::kProcessPrefix, 6, ExpandRoutine::kNone, ClickRoutine::kNodeProcess},        // station
+    {util::kProcessPrefix, 2, Expand::kNone, Click::kNodeAllProcess},      // process
+    {util::kProcessPrefix, 4, Expand::kNone, Click::kNodeCurrentProcess},  // run
+    {util::kProcessPrefix, 5, Expand::kStateGroup, Click::kNodeState},     // state group
+    {util::kProcessPrefix, 6, Expand::kExpandUser, Click::kNodeUser},      // station
+    {util::kProcessPrefix, 7, Expand::kExpandTask, Click::kNodeTask},      // task
+    {util::kProcessPrefix, 9, Expand::kNone, Click::kNodeStep},            // step
+    {util::kUserPrefix, 2, Expand::kNone, Click::kNodeProcess},            // station
+    {util::kUserPrefix, 3, Expand::kExpandProcess, Click::kNodeAllProcess},
+    {util::kUserPrefix, 5, Expand::kExpandUser, Click::kNodeUser},
+    {util::kUserPrefix, 6, Expand::kExpandTask, Click::kNodeTask},
+    {util::kUserPrefix, 8, Expand::kNone, Click::kNodeStep},
+    {util::kCommunicationPrefix, 2, Expand::kNodeMonthCommunications, Click::kNodeMonthCommunications},  // month
+    {util::kCommunicationPrefix, 3, Expand::kExpandCommunications, Click::kNodeCommunications},          // day
+    {util::kCommunicationPrefix, 4, Expand::kNone, Click::kNodeCommunications},                          // connection
+    {util::kAlarmDayPrefix, 3, Expand::kNone, Click::kNodeDayDateInAlarms},
+    {util::kAlarmUserPrefix, 2, Expand::kNone, Click::kNodeUserNameInAlarms},
+    {util::kAlarmUserPrefix, 4, Expand::kNone, Click::kNodeDayDateInAlarms},
+    {util::kAlarmOneUserPrefix, 2, Expand::kNone, Click::kNodeUserNameInAlarms},
+    {util::kAlarmOneUserPrefix, 4, Expand::kNone, Click::kNodeDayDateInAlarms},
+    {util::kAlarmAllPrefix, 2, Expand::kNone, Click::kNodeUserNameInAlarms},
+    {util::kAlarmAllPrefix, 4, Expand::kNone, Click::kNodeDayDateInAlarms},
+    {util::kImportPrefix, 3, Expand::kNone, Click::kNodeProcess},                        // import
+    {util::kImportPrefix, 4, Expand::kExpandImports, Click::kNodeProcessNameInImports},  // process of an import
+    {util::kImportPrefix, 5, Expand::kNone, Click::kNodeProcessNameInImports},           // run of that process
+    {util::kServerBackupPrefix, 3, Expand::kExpandBackupLevel1, Click::kListAllSubNodes},
+    {util::kServerBackupPrefix, 4, Expand::kExpandBackupLevel2, Click::kListAllSubNodes},
+    {util::kServerBackupPrefix, 5, Expand::kExpandBackupLevel3, Click::kListAllSubNodes},
+    {util::kServerBackupPrefix, 6, Expand::kExpandBackupLevel4, Click::kListAllSubNodes},
+    {util::kServerBackupPrefix, 7, Expand::kNone, Click::kListAllSubNodes},
+    {util::kServerBackupPrefix, 10, Expand::kExpandBackupLevel5, Click::kNodeBackupFiles},
+    {util::kStationBackupPrefix, 3, Expand::kExpandBackupLevel1, Click::kListAllSubNodes},
+    {util::kStationBackupPrefix, 4, Expand::kExpandBackupLevel2, Click::kListAllSubNodes},
+    {util::kStationBackupPrefix, 5, Expand::kExpandBackupLevel3, Click::kListAllSubNodes},
+    {util::kStationBackupPrefix, 6, Expand::kExpandBackupLevel4, Click::kListAllSubNodes},
+    {util::kStationBackupPrefix, 7, Expand::kNone, Click::kListAllSubNodes},
+    {util::kStationBackupPrefix, 10, Expand::kExpandBackupLevel5, Click::kNodeBackupFiles},
+    {"List", 1, Expand::kNone, Click::kListAllSubNodes},  // system log
 };
 constexpr NodeRoute kNoRoute{"", 0, ExpandRoutine::kNone, ClickRoutine::kNone};
 
@@ -44,6 +80,10 @@ constexpr TabView kTabViews[] = {
 };
 
 }  // namespace
+
+std::span<const NodeRoute> NodeRoutes() {
+  return kRoutes;
+}
 
 const NodeRoute& RouteOf(std::string_view key) {
   const std::vector<std::string_view> parts = util::SplitKey(key);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 #include "control/Enumerations.h"
@@ -9,10 +10,40 @@
 namespace quorvel {
 
 // Loads the children of a node.
-enum class ExpandRoutine { kNone, kStateGroup };
+enum class ExpandRoutine {
+  kNone,
+  kStateGroup,
+  kExpandUser,
+  kExpandTask,
+  kExpandProcess,
+  kNodeMonthCommunications,
+  kExpandCommunications,
+  kExpandImports,
+  kExpandBackupLevel1,
+  kExpandBackupLevel2,
+  kExpandBackupLevel3,
+  kExpandBackupLevel4,
+  kExpandBackupLevel5,
+};
 
 // Fills the list for a node.
-enum class ClickRoutine { kNone, kNodeProcess };
+enum class ClickRoutine {
+  kNone,
+  kNodeProcess,
+  kNodeAllProcess,
+  kNodeCurrentProcess,  // while the run is in progress, else kNodeProcess
+  kNodeState,
+  kNodeUser,
+  kNodeTask,
+  kNodeStep,
+  kNodeMonthCommunications,
+  kNodeCommunications,
+  kNodeDayDateInAlarms,
+  kNodeUserNameInAlarms,
+  kNodeProcessNameInImports,
+  kNodeBackupFiles,
+  kListAllSubNodes,
+};
 
 struct NodeRoute {
   std::string_view prefix;
@@ -20,6 +51,9 @@ struct NodeRoute {
   ExpandRoutine expand;
   ClickRoutine click;
 };
+
+// The routes of all kinds of nodes.
+std::span<const NodeRoute> NodeRoutes();
 
 // The route of a node by its key; one that does nothing for a key of no known shape.
 const NodeRoute& RouteOf(std::string_view key);

@@ -18,14 +18,16 @@ using datasource::Propagating;
 using widgets::NodeId;
 
 void ucProcessLog::m_GetLogByProcess(bool refresh) {
-  BuildByProcess(std::string(refresh ? SelectedKey() : std::string_view(f_strKey)));
+  BuildByProcess(refresh ? SelectedKey() : f_strKey);
 }
 
 void ucProcessLog::m_GetLogAll(StateFilter& state) {
   Propagating("Quorvel: ucProcessLog.m_GetLogAll", [&] {
     const Hourglass hourglass(platform_);
-    RequireBuilt(ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()));
-    const std::string place(SelectedKey());
+    const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
+    if (view == View::kNone) return;
+    RequireBuilt(view);
+    const std::string place = SelectedKey();
     Init();
     OptionsFilter filter = ReturnOptionsFilter(state, false);
     filter.state = state;
@@ -54,17 +56,22 @@ void ucProcessLog::RequireBuilt(View view) const {
               "The view \"" + std::string(controls_.sstProcessLog.currentCaption()) + "\" is not part of this version");
 }
 
-void ucProcessLog::BuildProcesses(const OptionsFilter& filter, std::string_view wantedKey) {
-  widgets::TreeView& tree = controls_.tvMotherList;
-  widgets::TabStrip& tabs = controls_.sstProcessLog;
+void ucProcessLog::ClearPanes() {
   InitListView();
-  tabs.SetCaption(0, "Processes");
-  tabs.SetCaption(1, "Users");
-  tree.InBatch([&] {
-    tree.Clear();
-    ReadProcesses(filter);
-    SelectAfterBuild(wantedKey);
-  });
+  controls_.tvMotherList.Clear();
+  SetfraListCaption();
+  MajStatusBarInfrmMain();
+}
+
+// No batch of the tree is open while the component or the host is called: either may repaint, and a picture is drawn
+// from what the observers were told.
+void ucProcessLog::BuildProcesses(const OptionsFilter& filter, const std::string& wantedKey) {
+  placeToReturnTo_ = wantedKey;
+  ClearPanes();
+  controls_.sstProcessLog.SetCaption(0, "Processes");
+  controls_.sstProcessLog.SetCaption(1, "Users");
+  ReadProcesses(filter);
+  SelectAfterBuild(wantedKey);
   SetfraListCaption();
   ModifyMotherListSize();
 }
@@ -77,40 +84,34 @@ void ucProcessLog::ReadProcesses(const OptionsFilter& filter) {
   source.GetProcessLogs(f_lngConnect, filter.start, filter.end, static_cast<std::int32_t>(filter.state), f_lngProcessId,
                         kAll, kAll, kReserved, kReserved, status);
   if (status == 0) {
-    tree::AppendProcessNodes(source.Records(), source.lngCount(), platform_, controls_.tvMotherList);
+    tree::AppendProcessNodes(source.Records(), source.lngCount(), platform_, errors_, controls_.tvMotherList);
   }
   source.CloseProcessLogs(f_lngConnect);
 }
 
-std::string_view ucProcessLog::SelectedKey() const {
+std::string ucProcessLog::SelectedKey() const {
   const widgets::TreeView& tree = controls_.tvMotherList;
-  if (tree.Selected() != NodeId::kNone) return tree.Key(tree.Selected());
-  return tree.Count() > 0 ? tree.Key(tree.Child(NodeId::kNone, 0)) : std::string_view();
+  if (tree.Selected() != NodeId::kNone) return std::string(tree.Key(tree.Selected()));
+  return tree.Count() > 0 ? std::string(tree.Key(tree.Child(NodeId::kNone, 0))) : placeToReturnTo_;
 }
 
-void ucProcessLog::SelectAfterBuild(std::string_view wantedKey) {
+void ucProcessLog::SelectAfterBuild(const std::string& wantedKey) {
   widgets::TreeView& tree = controls_.tvMotherList;
-  if (tree.Count() == 0) {
-    MajStatusBarInfrmMain();
-    return;
-  }
+  if (tree.Count() == 0) return;
   NodeId node = wantedKey.empty() ? NodeId::kNone : tree.Find(wantedKey);
   if (node == NodeId::kNone) node = tree.Child(NodeId::kNone, 0);
-  for (NodeId parent = tree.Parent(node); parent != NodeId::kNone; parent = tree.Parent(parent)) {
-    tree.SetExpanded(parent, true);
-  }
+  tree.InBatch([&] {
+    for (NodeId parent = tree.Parent(node); parent != NodeId::kNone; parent = tree.Parent(parent)) {
+      tree.SetExpanded(parent, true);
+    }
+  });
   HandleNodeClick(node);
 }
 
 void ucProcessLog::LoadNode(NodeId node) {
   if (!controls_.tvMotherList.HasPlaceholder(node)) return;
-  switch (RouteOf(controls_.tvMotherList.Key(node)).expand) {
-    case ExpandRoutine::kNone:
-      break;
-    case ExpandRoutine::kStateGroup:
-      ExpandStateGroup(node);
-      break;
-  }
+  // The builders of this version give no placeholder to nodes of other routines.
+  if (RouteOf(controls_.tvMotherList.Key(node)).expand == ExpandRoutine::kStateGroup) ExpandStateGroup(node);
 }
 
 // Labelled as a list routine, under which support knows it, though it adds tree nodes.
@@ -124,8 +125,9 @@ void ucProcessLog::ExpandStateGroup(NodeId node) {
     datasource::ProcessLog& source = ProcessLogSource();
     std::int32_t status = 0;
     source.GetProcessLogByTask(f_lngConnect, run, state, status);
-    // The placeholder goes only now: after a failed query the group can be opened again.
+    // The placeholder goes only now: after a failed query the group can be opened again, from the start.
     tree.InBatch([&] {
+      tree.RemoveChildren(node);
       if (status == 0) tree::AppendStationNodes(source.Records(), source.lngCount(), node, tree);
       tree.SetPlaceholder(node, false);
     });
@@ -135,41 +137,39 @@ void ucProcessLog::ExpandStateGroup(NodeId node) {
 
 void ucProcessLog::HandleNodeClick(NodeId node) {
   widgets::TreeView& tree = controls_.tvMotherList;
-  widgets::ListView& list = controls_.lvMotherList;
   tree.Select(node);
-  list.InBatch([&] {
-    list.SetRows(nullptr);
-    switch (RouteOf(tree.Key(node)).click) {
-      case ClickRoutine::kNone:
-        break;
-      case ClickRoutine::kNodeProcess:
-        lvMotherList_NodeProcess(node);
-        break;
-    }
-  });
+  controls_.lvMotherList.SetRows(nullptr);
+  // A node whose own list is not built yet shows its children.
+  if (RouteOf(tree.Key(node)).click != ClickRoutine::kNone) lvMotherList_NodeProcess(node);
   MajStatusBarInfrmMain();
 }
 
 void ucProcessLog::lvMotherList_NodeProcess(NodeId node) {
   Propagating("Quorvel: ucProcessLog.lvMotherList_NodeProcess", [&] {
+    LoadNode(node);
     widgets::ListView& list = controls_.lvMotherList;
     const widgets::TreeView& tree = controls_.tvMotherList;
     const std::string_view caption = list::IsImportName(tree.Key(node)) ? "Triggering" : "Processes";
-    if (ClearColumnHeaderLV(caption))
-      list.SetHeaders({{.caption = std::string(caption), .width = list.bounds().width}});
-    LoadNode(node);
-    list.SetRows(list::ChildRows(tree, node));
+    list.InBatch([&] {
+      if (ClearColumnHeaderLV(caption)) {
+        list.SetHeaders({{.caption = std::string(caption), .width = list.bounds().width}});
+      }
+      list.SetRows(list::ChildRows(tree, node));
+    });
   });
 }
 
 void ucProcessLog::MajStatusBarInfrmMain() {
-  // A host without the status bar goes into the log once, not at every click: the flag stays when the call fails.
   if (statusBarMissing_) return;
   datasource::Logging(errors_, "Quorvel: ucProcessLog.MajStatusBarInfrmMain", [&] {
-    const std::int32_t count = p_ListCount();
-    statusBarMissing_ = true;
-    platform_.SetHostStatusText(std::to_string(count) + (count > 1 ? " elements" : " element"));
-    statusBarMissing_ = false;
+    try {
+      const std::int32_t count = p_ListCount();
+      platform_.SetHostStatusText(std::to_string(count) + (count > 1 ? " elements" : " element"));
+    } catch (const Error& error) {
+      // A host without the status bar goes into the log once, not at every click.
+      statusBarMissing_ = error.number() == static_cast<std::int32_t>(SystemError::kUnsupportedMember);
+      throw;
+    }
   });
 }
 

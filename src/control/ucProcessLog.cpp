@@ -21,10 +21,12 @@ constexpr widgets::Twips kFirstHeight = 9000;
 constexpr std::size_t kDaysRow = 1;  // of cboDuringUnit
 constexpr std::string_view kDefaultPeriod = "1";
 
-std::optional<std::int32_t> NumberWithin(std::string_view text, std::int32_t least, std::int32_t most) {
+std::optional<std::int32_t> NumberWithin(const std::optional<std::string>& text, std::int32_t least,
+                                         std::int32_t most) {
+  if (!text) return std::nullopt;
   std::int32_t number = 0;
-  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool isNumber = code == std::errc() && end == text.data() + text.size();
+  const auto [end, code] = std::from_chars(text->data(), text->data() + text->size(), number);
+  const bool isNumber = code == std::errc() && end == text->data() + text->size();
   if (!isNumber || number < least || number > most) return std::nullopt;
   return number;
 }
@@ -81,11 +83,11 @@ void ucProcessLog::Init() {
   Propagating("Quorvel: ucProcessLog.Init", [&] {
     if (labelsRead_) return;
     if (!labels_) labels_ = datasource::CreateRecordSource<datasource::Labels>(factory_, f_strServerName);
-    const std::string useType = LabelValue(*labels_, "UseType");
-    serverMode_ = useType.empty() || useType == "SERVEUR";
+    const std::optional<std::string> useType = LabelValue(*labels_, "UseType");
+    serverMode_ = !useType || *useType == "SERVEUR";
     std::optional<std::int32_t> period;
     std::optional<std::int32_t> unit;
-    if (!useType.empty()) {
+    if (useType) {
       const std::string role = serverMode_ ? "SERVER" : "STATION";
       period = NumberWithin(LabelValue(*labels_, role + "_LOGS_DISPLAY_PERIOD"), 1, controls_.updDuring.maximum());
       unit = NumberWithin(LabelValue(*labels_, role + "_LOGS_DISPLAY_TYPE"), 0, 2);
@@ -97,11 +99,11 @@ void ucProcessLog::Init() {
   });
 }
 
-// Empty when the installation has no such setting: every setting has a default.
-std::string ucProcessLog::LabelValue(datasource::Labels& labels, std::string_view name) {
+// Nothing when the installation has no such setting: every setting has a default.
+std::optional<std::string> ucProcessLog::LabelValue(datasource::Labels& labels, std::string_view name) {
   std::int32_t status = 0;
   labels.GetLabel(f_lngConnect, name, status);
-  return status == 0 ? labels.strLabelValue() : std::string();
+  return status == 0 ? std::optional(labels.strLabelValue()) : std::nullopt;
 }
 
 OptionsFilter ucProcessLog::ReturnOptionsFilter(StateFilter stateBefore, bool showOptions) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -65,6 +66,11 @@ class ucProcessLog {
   // Builds the selected tab's own view for one state filter, for p_ProcessId (-1 = all).
   void m_GetLogAll(StateFilter& state);
 
+  // Remembers what the node of this key stands for, and gives the key of the equivalent node in the view "Processes",
+  // "Users" or "Connections"; "" for any other view, an empty key, and a step that no connection carried. Never raises:
+  // what goes wrong is logged.
+  std::string GetNextContextKeyInLogs(std::string_view key, std::string_view view);
+
   // Fills cboState for the tab shown and keeps the choice, or takes its counterpart.
   void InitStateListByTab();
   // Shows the option controls that the state filter and the tab call for.
@@ -80,8 +86,9 @@ class ucProcessLog {
   void cmdRefresh_Click();
   void cboState_Click();
   void cboDuringUnit_Click();
-  // The up-down's value goes into the text box.
-  void updDuring_Change();
+  // One more or one less than the length of the period that the text box shows.
+  void updDuring_UpClick();
+  void updDuring_DownClick();
   void tvMotherList_Expand(widgets::NodeId node);
   void tvMotherList_Collapse(widgets::NodeId node);
   void tvMotherList_NodeClick(widgets::NodeId node);
@@ -95,7 +102,7 @@ class ucProcessLog {
  private:
   // Reads the installation's settings when they were not read for this connection yet, and presets the period.
   void Init();
-  std::string LabelValue(datasource::Labels& labels, std::string_view name);
+  std::optional<std::string> LabelValue(datasource::Labels& labels, std::string_view name);
   OptionsFilter ReturnOptionsFilter(StateFilter stateBefore, bool showOptions);
 
   // Layout.
@@ -103,8 +110,7 @@ class ucProcessLog {
   void InitListView();
   void SetfraListCaption();
   void ModifyMotherListSize();
-  // Clears headers and rows when the headers are not those that begin with this caption; tells whether they must be
-  // set.
+  // Clears the headers when they are not those that begin with this caption; tells whether they must be set.
   bool ClearColumnHeaderLV(std::string_view firstCaption);
 
   // Views. `wantedKey`: the node to select after the build, when it exists.
@@ -112,17 +118,19 @@ class ucProcessLog {
   void BuildByProcess(const std::string& wantedKey);
   // Error 445 for a view that this version does not build.
   void RequireBuilt(View view) const;
-  void BuildProcesses(const OptionsFilter& filter, std::string_view wantedKey);
+  void BuildProcesses(const OptionsFilter& filter, const std::string& wantedKey);
+  // Empties tree and list, and what tells their numbers.
+  void ClearPanes();
   void ReadProcesses(const OptionsFilter& filter);
-  // Key of the selected node, else of the first, else "". Lies in the tree.
-  std::string_view SelectedKey() const;
-  void SelectAfterBuild(std::string_view wantedKey);
+  // Key of the selected node, else of the first. While the tree is empty, of the node that the last build wanted: a
+  // build that failed does not lose the place.
+  std::string SelectedKey() const;
+  void SelectAfterBuild(const std::string& wantedKey);
   void LoadNode(widgets::NodeId node);
   void ExpandStateGroup(widgets::NodeId node);
   void HandleNodeClick(widgets::NodeId node);
   void lvMotherList_NodeProcess(widgets::NodeId node);
   void MajStatusBarInfrmMain();
-  std::string GetNextContextKeyInLogs(std::string_view key, std::string_view view);
   std::string ConnectionsContextKey();
 
   datasource::ProcessLog& ProcessLogSource();
@@ -140,6 +148,7 @@ class ucProcessLog {
   tlFromType f_tlFromType = tlFromType::tlAllOnStation;
   std::string f_strKey;
   std::string f_strServerName;
+  std::string placeToReturnTo_;
   bool serverMode_ = true;
   bool labelsRead_ = false;
   bool splitterMoving_ = false;

@@ -1,5 +1,6 @@
 #include "datasource/ErrorLog.h"
 
+#include <algorithm>
 #include <fstream>
 #include <optional>
 #include <sstream>
@@ -101,13 +102,16 @@ void CopyRest(OldLog& log, std::ostream& out) {
 }
 
 void TrimWhenTooLong(Platform& platform, const std::filesystem::path& file) {
-  const std::filesystem::path shorter = file.string() + ".tmp";
+  std::filesystem::path shorter = file;
+  shorter += ".tmp";
   bool trimmed = false;
   Try([&] {
     const auto length = static_cast<std::int64_t>(std::filesystem::file_size(file));
     OldLog log(file);
     const std::int64_t limit = log.ReadNumber() * 1024;
-    const std::int64_t percent = log.ReadNumber();
+    // Beyond a million percent nothing is left of any log; the bound keeps the product within 64 bits.
+    constexpr std::int64_t kMostPercent = 1'000'000;
+    const std::int64_t percent = std::clamp(log.ReadNumber(), -kMostPercent, kMostPercent);
     if (length <= limit) return;
     SkipOldest(log, limit * percent / 100);
     std::ofstream out(shorter, std::ios::binary | std::ios::app);
@@ -159,7 +163,7 @@ void WriteErrorLog(Platform& platform, std::int32_t number, std::string_view sou
     if (existed) TrimWhenTooLong(platform, file);
     std::ofstream out(file, std::ios::binary | std::ios::app);
     if (!existed) WriteHeader(out);
-    out << Record(platform, number, source, description, errorType, errorText);
+    out << platform.ToFileText(Record(platform, number, source, description, errorType, errorText));
   });
   Try([&] { platform.SetMousePointer(MousePointer::kDefault); });
 }

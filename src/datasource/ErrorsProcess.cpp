@@ -47,10 +47,19 @@ void ErrorsProcess::ProcessError(std::int32_t number, std::string_view label, st
   }
 }
 
-void ErrorsProcess::LogError(std::int32_t number, std::string_view label, std::string_view description) noexcept {
+void ErrorsProcess::ProcessCurrentError(std::string_view label) noexcept {
   try {
-    if (number == kAlreadyReported || number == kConcurrentUpdate) return;
-    WriteErrorLog(*platform_, number, Chain(label, CurrentError().source()), description, kErrorType, "");
+    const Error error = CurrentError();
+    ProcessError(error.number(), label, error.description());
+  } catch (...) {  // NOLINT(bugprone-empty-catch): as above
+  }
+}
+
+void ErrorsProcess::LogCurrentError(std::string_view label) noexcept {
+  try {
+    const Error error = CurrentError();
+    if (error.number() == kAlreadyReported || error.number() == kConcurrentUpdate) return;
+    WriteErrorLog(*platform_, error.number(), Chain(label, error.source()), error.description(), kErrorType, "");
   } catch (...) {  // NOLINT(bugprone-empty-catch): as above
   }
 }

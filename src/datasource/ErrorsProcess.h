@@ -24,8 +24,11 @@ class ErrorsProcess {
   // Never raises.
   void ProcessError(std::int32_t number, std::string_view label, std::string_view description) noexcept;
 
+  // The same for the error being handled, by its own number and description.
+  void ProcessCurrentError(std::string_view label) noexcept;
+
   // Only the log record, for procedures that give their default instead of an error and have nothing to show.
-  void LogError(std::int32_t number, std::string_view label, std::string_view description) noexcept;
+  void LogCurrentError(std::string_view label) noexcept;
 
  private:
   Platform* platform_;
@@ -47,8 +50,7 @@ void Reporting(ErrorsProcess& errors, std::string_view label, Body&& body) noexc
   try {
     std::forward<Body>(body)();
   } catch (...) {
-    const Error error = CurrentError();
-    errors.ProcessError(error.number(), label, error.description());
+    errors.ProcessCurrentError(label);
   }
 }
 
@@ -58,8 +60,7 @@ void Logging(ErrorsProcess& errors, std::string_view label, Body&& body) noexcep
   try {
     std::forward<Body>(body)();
   } catch (...) {
-    const Error error = CurrentError();
-    errors.LogError(error.number(), label, error.description());
+    errors.LogCurrentError(label);
   }
 }
 

@@ -46,8 +46,9 @@ std::unique_ptr<Source> CreateRecordSource(RecordSourceFactory& factory, std::st
   std::unique_ptr<RecordSource> created = factory.Create(Source::kClassIdentifier, serverName);
   auto* source = dynamic_cast<Source*>(created.get());
   if (source == nullptr) {
-    throw Error(SystemError::kCannotCreateComponent,
-                "The component does not answer as " + std::string(Source::kClassIdentifier));
+    throw Error(SystemError::kCannotCreateComponent, "The component does not answer as " +
+                                                         std::string(Source::kClassIdentifier) + " on server \"" +
+                                                         std::string(serverName) + "\"");
   }
   static_cast<void>(created.release());  // owned as a Source from here on
   return std::unique_ptr<Source>(source);

@@ -4,6 +4,7 @@
 #include <array>
 #include <iterator>
 
+#include "util/KeyPrefixes.h"
 #include "util/PublicFunctions.h"
 
 namespace quorvel::list {
@@ -96,6 +97,27 @@ constexpr WaitState kWaitStates[] = {
 };
 constexpr Classified kPlainUser{"User", ""};
 
+// What a station's flags come to. The last case fits nothing and is shown plainly; it is counted as unknown.
+struct UserOutcome {
+  Classified shown;
+  StateGroup group;
+};
+constexpr UserOutcome kUserInProgress{kPlainUser, StateGroup::kInProgress};
+constexpr UserOutcome kUserOk{{"User_Ok", kUserOkCaption}, StateGroup::kOk};
+constexpr UserOutcome kUserNotOk{{"User_NoOk", kUserNotOkCaption}, StateGroup::kNotOk};
+constexpr UserOutcome kUserUnknown{{"User_Undefined", kUnknownCaption}, StateGroup::kUnknown};
+constexpr UserOutcome kUserNotExecuted{{"User_NoExecute", kNotExecutedCaption}, StateGroup::kNotExecuted};
+constexpr UserOutcome kUserOther{kPlainUser, StateGroup::kUnknown};
+
+const UserOutcome& OutcomeOf(const UserFlags& flags) {
+  if (flags.inProgress != 0) return kUserInProgress;
+  if (flags.ok == kTrue) return kUserOk;
+  if (flags.notOk == kTrue) return kUserNotOk;
+  if (flags.unknown == kTrue) return kUserUnknown;
+  if (flags.executed == 0) return kUserNotExecuted;
+  return kUserOther;
+}
+
 Classified ClassifyWaiting(std::string_view waitState) {
   const auto* const found = std::ranges::find(kWaitStates, waitState, &WaitState::text);
   return found == std::end(kWaitStates) ? kPlainUser : found->shown;
@@ -103,8 +125,8 @@ Classified ClassifyWaiting(std::string_view waitState) {
 
 }  // namespace
 
-std::string_view SetStateAndIconToListview(widgets::ListView& list, std::size_t row, Flag inProgress, Flag notOk,
-                                           Flag ok, Flag unknown) {
+std::string_view SetStateAndIconToListview(datasource::ErrorsProcess& errors, widgets::ListView& list, std::size_t row,
+                                           Flag inProgress, Flag notOk, Flag ok, Flag unknown) {
   struct Outcome {
     Flag flag;
     Classified shown;
@@ -115,29 +137,21 @@ std::string_view SetStateAndIconToListview(widgets::ListView& list, std::size_t 
       {unknown, {"ProcessUndefined", kUnknownCaption}},
       {ok, {"ProcessOk", kOkCaption}},
   };
-  for (const Outcome& outcome : outcomes) {
-    if (outcome.flag == 0) continue;
-    list.SetIcon(row, outcome.shown.icon);
-    return outcome.shown.caption;
-  }
-  return kNotExecutedCaption;
+  const auto* const first = std::ranges::find_if(outcomes, [](const Outcome& outcome) { return outcome.flag != 0; });
+  if (first == std::end(outcomes)) return kNotExecutedCaption;
+  return datasource::Logging(errors, "Quorvel: ucProcessLog.SetStateAndIconToListview", std::string_view(), [&] {
+    list.SetIcon(row, first->shown.icon);
+    return first->shown.caption;
+  });
 }
 
 Classified ClassifyUser(const UserFlags& flags, std::string_view waitState) {
-  if (flags.inProgress != 0) return ClassifyWaiting(waitState);
-  if (flags.ok == kTrue) return {"User_Ok", kUserOkCaption};
-  if (flags.notOk == kTrue) return {"User_NoOk", kUserNotOkCaption};
-  if (flags.unknown == kTrue) return {"User_Undefined", kUnknownCaption};
-  if (flags.executed == 0) return {"User_NoExecute", kNotExecutedCaption};
-  return kPlainUser;
+  const UserOutcome& outcome = OutcomeOf(flags);
+  return outcome.group == StateGroup::kInProgress ? ClassifyWaiting(waitState) : outcome.shown;
 }
 
 StateGroup GroupOfUser(const UserFlags& flags) {
-  if (flags.inProgress != 0) return StateGroup::kInProgress;
-  if (flags.ok == kTrue) return StateGroup::kOk;
-  if (flags.notOk == kTrue) return StateGroup::kNotOk;
-  if (flags.unknown != kTrue && flags.executed == 0) return StateGroup::kNotExecuted;
-  return StateGroup::kUnknown;
+  return OutcomeOf(flags).group;
 }
 
 std::string GetLogIconeTask(std::string_view taskType, Flag notExecuted, std::int32_t stationScope, Flag waiting,
@@ -181,12 +195,12 @@ bool IsFilesTransferLogError(std::int32_t kind, std::int32_t result) {
 }
 
 bool IsCurrentProcessName(std::string_view key) {
-  return util::Identifiant(key, 1) == "LPROC" && !util::Identifiant(key, 2).empty() &&
+  return util::Identifiant(key, 1) == util::kProcessPrefix && !util::Identifiant(key, 2).empty() &&
          !util::Identifiant(key, 3).empty() && !util::Identifiant(key, 4).empty() && util::Identifiant(key, 5).empty();
 }
 
 bool IsImportName(std::string_view key) {
-  return util::Identifiant(key, 1) == "LIMP" && !util::Identifiant(key, 2).empty() &&
+  return util::Identifiant(key, 1) == util::kImportPrefix && !util::Identifiant(key, 2).empty() &&
          !util::Identifiant(key, 3).empty() && util::Identifiant(key, 4).empty();
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "datasource/Column.h"
+#include "datasource/ErrorsProcess.h"
 #include "widgets/ListView.h"
 
 namespace quorvel::list {
@@ -34,9 +35,10 @@ struct Classified {
 };
 
 // Outcome of a process, task or step row: the caption, and the row's icon set to match when it differs. Unknown is
-// looked at before OK; a row without any flag keeps its icon. Error 9 for a row that does not exist.
-std::string_view SetStateAndIconToListview(widgets::ListView& list, std::size_t row, Flag inProgress, Flag notOk,
-                                           Flag ok, Flag unknown);
+// looked at before OK; a row without any flag keeps its icon. Setting the icon of a row that does not exist goes into
+// the log and gives the empty caption.
+std::string_view SetStateAndIconToListview(datasource::ErrorsProcess& errors, widgets::ListView& list, std::size_t row,
+                                           Flag inProgress, Flag notOk, Flag ok, Flag unknown);
 
 // What tells a station's outcome in a run.
 struct UserFlags {

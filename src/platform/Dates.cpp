@@ -109,6 +109,12 @@ DateValue TimePart(DateValue date) {
   return split ? Join(0, split->second) : 0;
 }
 
+DateValue AtTimeOf(DateValue day, DateValue time) {
+  const DaySeconds dayPart = Split(day).value_or(DaySeconds{0, 0});
+  const DaySeconds timePart = Split(time).value_or(DaySeconds{0, 0});
+  return Join(dayPart.day, timePart.second);
+}
+
 DateValue AddInterval(DateValue date, DateInterval interval, std::int32_t count) {
   const std::optional<DaySeconds> split = Split(date);
   if (!split) throw Error(SystemError::kInvalidCall, "Not a date that can be shown");

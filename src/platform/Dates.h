@@ -40,6 +40,9 @@ DateValue DatePart(DateValue date);
 // The time of day of a date as a fraction of a day, 0 <= fraction < 1.
 DateValue TimePart(DateValue date);
 
+// The day of one date at the time of day of another. Either counts as 0 when it cannot be shown.
+DateValue AtTimeOf(DateValue day, DateValue time);
+
 // The date `count` intervals later (earlier when negative). Months are calendar months, cut to the month's last day.
 // Error 6 when the result leaves the years 100 to 9999, 5 when `date` itself cannot be shown.
 DateValue AddInterval(DateValue date, DateInterval interval, std::int32_t count);

@@ -1,8 +1,12 @@
 #include "platform/Error.h"
 
 #include <new>
+#include <optional>
 #include <stdexcept>
+#include <system_error>
+#include <typeinfo>
 #include <utility>
+#include <variant>
 
 namespace quorvel {
 
@@ -34,6 +38,15 @@ Error CurrentError() {
     return {SystemError::kOverflow, error.what()};
   } catch (const std::range_error& error) {
     return {SystemError::kOverflow, error.what()};
+  } catch (const std::bad_cast& error) {
+    return {SystemError::kTypeMismatch, error.what()};
+  } catch (const std::bad_variant_access& error) {
+    return {SystemError::kTypeMismatch, error.what()};
+  } catch (const std::bad_optional_access& error) {
+    return {SystemError::kTypeMismatch, error.what()};
+  } catch (const std::system_error& error) {
+    const bool missing = error.code() == std::errc::no_such_file_or_directory;
+    return {missing ? SystemError::kFileNotFound : SystemError::kInvalidCall, error.what()};
   } catch (const std::exception& error) {
     return {SystemError::kInvalidCall, error.what()};
   } catch (...) {

@@ -64,8 +64,9 @@ class Error : public std::exception {
 };
 
 // The exception being handled, as an Error: itself when it is one; otherwise 7 for std::bad_alloc and
-// std::length_error, 9 for std::out_of_range, 6 for std::overflow_error and std::range_error, 5 for anything else, with
-// the original text as description. Outside a handler: number 0, all texts empty.
+// std::length_error, 9 for std::out_of_range, 6 for std::overflow_error and std::range_error, 13 for std::bad_cast,
+// std::bad_variant_access and std::bad_optional_access, 53 for a std::system_error that misses a file, 5 for anything
+// else, with the original text as description. Outside a handler: number 0, all texts empty.
 Error CurrentError();
 
 }  // namespace quorvel

@@ -55,6 +55,9 @@ class Platform {
   virtual void DeleteFile(const std::filesystem::path& file) = 0;
   virtual void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) = 0;
 
+  // Text in the encoding that plain text files have here: UTF-8 off Windows, the ANSI code page on it.
+  virtual std::string ToFileText(std::string_view text) const = 0;
+
   virtual SystemFamily OperatingSystem() const = 0;
   // The interactive user, qualified by domain or host: "DOMAIN\user". Empty when the system does not say.
   virtual std::string CurrentAccount() const = 0;

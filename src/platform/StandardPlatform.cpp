@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <ctime>
 #include <system_error>
 
@@ -56,9 +57,33 @@ std::optional<DateValue> StandardPlatform::ParseDate(std::string_view text) cons
   return ParseFixedDate(text);
 }
 
+#ifdef _WIN32
 std::filesystem::path StandardPlatform::TemporaryFolder() const {
   return std::filesystem::temp_directory_path();
 }
+
+std::string StandardPlatform::ToFileText(std::string_view text) const {
+  const auto size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), size)));
+  const auto wideSize = static_cast<int>(wide.size());
+  const int needed = WideCharToMultiByte(CP_ACP, 0, wide.data(), wideSize, nullptr, 0, nullptr, nullptr);
+  std::string ansi(static_cast<std::size_t>(needed), '\0');
+  WideCharToMultiByte(CP_ACP, 0, wide.data(), wideSize, ansi.data(), needed, nullptr, nullptr);
+  return ansi;
+}
+#else
+std::filesystem::path StandardPlatform::TemporaryFolder() const {
+  const char* const folder = std::getenv("TMPDIR");
+  std::error_code ignored;
+  if (folder != nullptr && std::filesystem::is_directory(folder, ignored)) return folder;
+  return "/tmp";
+}
+
+std::string StandardPlatform::ToFileText(std::string_view text) const {
+  return std::string(text);
+}
+#endif
 
 void StandardPlatform::DeleteFile(const std::filesystem::path& file) {
   std::error_code code;

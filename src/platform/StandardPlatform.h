@@ -14,10 +14,11 @@ class StandardPlatform : public Platform {
   DateValue Now() const override;
   std::string FormatDate(DateValue date, DateFormat format) const override;
   std::optional<DateValue> ParseDate(std::string_view text) const override;
-  // $TMPDIR, else the system's temporary folder.
+  // $TMPDIR where it names a folder, else the system's temporary folder.
   std::filesystem::path TemporaryFolder() const override;
   void DeleteFile(const std::filesystem::path& file) override;
   void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) override;
+  std::string ToFileText(std::string_view text) const override;
   // Systems without a Windows version record count as the NT family.
   SystemFamily OperatingSystem() const override;
   // HOST\user off Windows.

@@ -26,8 +26,9 @@ list::UserFlags FlagsOf(const datasource::ProcessLogRecords& rows, std::size_t r
 // Walks the rows and keeps what is open: the process, the run and the counts of its stations.
 class ProcessTreeBuilder {
  public:
-  ProcessTreeBuilder(const datasource::ProcessLogRecords& rows, const Platform& platform, widgets::TreeView& tree)
-      : rows_(rows), platform_(platform), tree_(tree) {}
+  ProcessTreeBuilder(const datasource::ProcessLogRecords& rows, const Platform& platform,
+                     datasource::ErrorsProcess& errors, widgets::TreeView& tree)
+      : rows_(rows), platform_(platform), errors_(errors), tree_(tree) {}
 
   void Build(std::size_t count) {
     for (std::size_t row = 0; row < count; ++row) {
@@ -70,6 +71,11 @@ class ProcessTreeBuilder {
   // Groups come in the order in which the rows met them, labelled with what all rows of the run count to.
   void CloseRun() {
     if (counts_.total == 0) return;
+    datasource::Logging(errors_, kSetPurcentLabel, [&] { LabelRun(); });
+    counts_ = {};
+  }
+
+  void LabelRun() {
     for (std::size_t i = 0; i < groupsMet_; ++i) {
       const StateGroup group = groups_[i];
       const NodeId node = tree_.Add(run_, MakeKey(runKey_, static_cast<std::int32_t>(group)),
@@ -78,11 +84,11 @@ class ProcessTreeBuilder {
     }
     const std::string_view image = RunImage(counts_);
     tree_.SetImages(run_, image, image, image);
-    counts_ = {};
   }
 
   const datasource::ProcessLogRecords& rows_;
   const Platform& platform_;
+  datasource::ErrorsProcess& errors_;
   widgets::TreeView& tree_;
   std::string processKey_;
   std::string runKey_;
@@ -96,11 +102,11 @@ class ProcessTreeBuilder {
 }  // namespace
 
 void AppendProcessNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, const Platform& platform,
-                        widgets::TreeView& tree) {
+                        datasource::ErrorsProcess& errors, widgets::TreeView& tree) {
   if (count <= 0) return;
   const auto rowCount = static_cast<std::size_t>(count);
   datasource::RequireColumns("GetProcessLogs", rows, rowCount);
-  tree.InBatch([&] { ProcessTreeBuilder(rows, platform, tree).Build(rowCount); });
+  tree.InBatch([&] { ProcessTreeBuilder(rows, platform, errors, tree).Build(rowCount); });
 }
 
 void AppendStationNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, NodeId group,

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "datasource/ErrorsProcess.h"
 #include "datasource/ProcessLog.h"
 #include "platform/Platform.h"
 #include "widgets/TreeView.h"
@@ -10,9 +11,10 @@
 namespace quorvel::tree {
 
 // Appends the nodes for the rows of GetProcessLogs to `tree`, one pass, in their order: a row is one station of a run.
-// Groups get a placeholder for their stations. `platform` formats the dates. Error 9 when a column lacks rows.
+// Groups get a placeholder for their stations. `platform` formats the dates. A run that cannot be labelled goes into
+// the log, and the next one is built. Error 9 when a column lacks rows.
 void AppendProcessNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, const Platform& platform,
-                        widgets::TreeView& tree);
+                        datasource::ErrorsProcess& errors, widgets::TreeView& tree);
 
 // Appends a node for each row of GetProcessLogByTask under the state group `group`. Error 9 as above.
 void AppendStationNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, widgets::NodeId group,

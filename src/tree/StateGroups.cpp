@@ -69,6 +69,15 @@ void SetImageWhenDifferent(widgets::TreeView& tree, widgets::NodeId node, std::s
   if (tree.Image(node) != image) tree.SetImages(node, image, image, image);
 }
 
+void LabelGroups(widgets::TreeView& tree, std::string_view key, const StationCounts& counts) {
+  for (const GroupLook& look : kGroups) {
+    const std::int32_t count = counts.Of(look.group);
+    if (count <= 0) continue;
+    const std::string text = StateGroupText(look.group, counts.total, count);
+    tree.SetNodeText(NodeOf(tree, MakeKey(key, static_cast<std::int32_t>(look.group))), text);
+  }
+}
+
 }  // namespace
 
 std::int32_t StationCounts::Of(StateGroup group) const {
@@ -116,9 +125,11 @@ std::string_view StateGroupImage(StateGroup group) {
   return LookOf(group).image;
 }
 
-std::string strGetNumberAndPurcent(std::int32_t total, std::int32_t count) {
-  if (total <= 0) return {};
-  return std::to_string(Percentage(total, count)) + "% (" + std::to_string(count) + ")";
+std::string strGetNumberAndPurcent(datasource::ErrorsProcess& errors, std::int32_t total, std::int32_t count) {
+  return datasource::Logging(errors, "Quorvel: ucProcessLog.strGetNumberAndPurcent", std::string(), [&] {
+    if (total <= 0) return std::string();
+    return std::to_string(Percentage(total, count)) + "% (" + std::to_string(count) + ")";
+  });
 }
 
 std::string StateGroupText(StateGroup group, std::int32_t total, std::int32_t count) {
@@ -138,18 +149,13 @@ std::string_view RunImage(const StationCounts& counts) {
   return "ProcessOk";
 }
 
-void SetPurcentAndIconToTreeview(widgets::TreeView& tree, std::string_view key, const StationCounts& counts,
-                                 bool updateTexts) {
-  tree.InBatch([&] {
-    if (updateTexts) {
-      for (const GroupLook& look : kGroups) {
-        const std::int32_t count = counts.Of(look.group);
-        if (count <= 0) continue;
-        const std::string text = StateGroupText(look.group, counts.total, count);
-        tree.SetNodeText(NodeOf(tree, MakeKey(key, static_cast<std::int32_t>(look.group))), text);
-      }
-    }
-    SetImageWhenDifferent(tree, NodeOf(tree, key), RunImage(counts));
+void SetPurcentAndIconToTreeview(datasource::ErrorsProcess& errors, widgets::TreeView& tree, std::string_view key,
+                                 const StationCounts& counts, bool updateTexts) {
+  datasource::Logging(errors, kSetPurcentLabel, [&] {
+    tree.InBatch([&] {
+      if (updateTexts) LabelGroups(tree, key, counts);
+      SetImageWhenDifferent(tree, NodeOf(tree, key), RunImage(counts));
+    });
   });
 }
 
@@ -164,11 +170,13 @@ std::string_view GetProcessIconName(const StatePresence& present, std::string_vi
   return found == std::end(kWaitingImages) ? kStarted : found->image;
 }
 
-void SetIconToTreeview(widgets::TreeView& tree, std::string_view key, const StatePresence& present,
-                       std::string_view waitState) {
-  const std::string_view image =
-      GetProcessIconName(present, waitState == kWaitingPrerequisite ? std::string_view() : waitState);
-  if (!image.empty()) SetImageWhenDifferent(tree, NodeOf(tree, key), image);
+void SetIconToTreeview(datasource::ErrorsProcess& errors, widgets::TreeView& tree, std::string_view key,
+                       const StatePresence& present, std::string_view waitState) {
+  datasource::Logging(errors, "Quorvel: ucProcessLog.SetIconToTreeview", [&] {
+    const std::string_view image =
+        GetProcessIconName(present, waitState == kWaitingPrerequisite ? std::string_view() : waitState);
+    if (!image.empty()) SetImageWhenDifferent(tree, NodeOf(tree, key), image);
+  });
 }
 
 std::int32_t CountItemsInTreeview(const widgets::TreeView& tree) {

@@ -43,18 +43,21 @@ std::string ListView::Key(std::size_t row) const {
 
 std::string ListView::Cell(std::size_t row, std::size_t column) const {
   RequireRow(row);
+  if (column >= headers_.size()) throw Error(SystemError::kIndexOutOfRange, name() + " has no such column");
   std::string cell;
   rows_->AppendCell(row, column, cell);
   return cell;
 }
 
 std::string_view ListView::Icon(std::size_t row) const {
+  RequireRow(row);
   const auto found = overlay_.find(row);
   if (found != overlay_.end() && found->second.icon) return *found->second.icon;
   return rows_->Icon(row);
 }
 
 RowLook ListView::Look(std::size_t row) const {
+  RequireRow(row);
   const auto found = overlay_.find(row);
   if (found != overlay_.end() && found->second.look) return *found->second.look;
   return rows_->Look(row);

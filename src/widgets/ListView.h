@@ -55,7 +55,8 @@ class RowSource {
   virtual RowLook Look(std::size_t /*row*/) const { return {}; }
 };
 
-// Draws a list. Hears of a batch of changes once, after all of them were made.
+// Draws a list. Hears of a batch of changes once, after all of them were made. Must not change the list from a call,
+// but for its selection.
 class ListObserver {
  public:
   virtual ~ListObserver() = default;
@@ -98,12 +99,14 @@ class ListView : public Control {
   std::size_t Count() const { return rows_ ? rows_->Count() : 0; }
 
   std::string Key(std::size_t row) const;
+  // Error 9 for a column without a header too.
   std::string Cell(std::size_t row, std::size_t column) const;
+  // For many cells: appends to `out` and checks nothing; row and column must exist.
   void AppendCell(std::size_t row, std::size_t column, std::string& out) const { rows_->AppendCell(row, column, out); }
   // Valid until the list changes.
   std::string_view Icon(std::size_t row) const;
   RowLook Look(std::size_t row) const;
-  // The first row of that key.
+  // The first row of that key. Looks at one row after the other.
   std::optional<std::size_t> RowOfKey(std::string_view key) const;
 
   // Single changes lie over the source's rows.

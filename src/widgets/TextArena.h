@@ -26,7 +26,8 @@ class TextArena {
     if (text.size() > end_ - next_) AddPiece(text.size());
     const Ref ref{next_, static_cast<std::uint32_t>(text.size())};
     if (!text.empty()) std::memcpy(At(next_), text.data(), text.size());
-    next_ += ref.length;
+    // A text longer than a piece keeps its piece for itself: nothing may begin in the spans that it covers.
+    next_ = text.size() > kPiece ? end_ : next_ + ref.length;
     return ref;
   }
 
@@ -47,9 +48,7 @@ class TextArena {
   static constexpr std::size_t kPiece = std::size_t{1} << kPieceBits;
   static constexpr std::size_t kWorthMoving = kPiece;
 
-  char* At(std::uint32_t position) const {
-    return pieces_[position >> kPieceBits].get() + (position & (kPiece - 1));
-  }
+  char* At(std::uint32_t position) const { return pieces_[position >> kPieceBits].get() + (position & (kPiece - 1)); }
 
   void AddPiece(std::size_t atLeast) {
     const std::size_t spans = (std::max(atLeast, kPiece) + kPiece - 1) / kPiece;

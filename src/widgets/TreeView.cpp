@@ -1,6 +1,7 @@
 #include "widgets/TreeView.h"
 
 #include <algorithm>
+#include <cassert>
 #include <limits>
 #include <stdexcept>
 #include <utility>
@@ -64,7 +65,7 @@ void TreeView::AppendChild(ChildList& list, NodeId child) {
 std::uint16_t TreeView::ImageNumber(std::string_view image) {
   // Neighbours mostly share their image: the name used last is tried before it is looked up.
   if (!nodes_.empty() && imageNames_[nodes_.back().image] == image) return nodes_.back().image;
-  const auto found = imageNumbers_.find(std::string(image));
+  const auto found = imageNumbers_.find(image);
   if (found != imageNumbers_.end()) return found->second;
   if (imageNames_.size() > std::numeric_limits<std::uint16_t>::max()) throw std::length_error("Too many images");
   const auto number = static_cast<std::uint16_t>(imageNames_.size());
@@ -83,11 +84,14 @@ void TreeView::SetPlaceholder(NodeId node, bool placeholder) {
 void TreeView::RemoveChildren(NodeId node) {
   if (node == NodeId::kNone) return Clear();
   if (At(node).children.count == 0) return;
+  // From here on slots are used again, and their order no longer tells which of two nodes is the newer.
+  IndexKeys();
   InBatch([&] {
     SetExpanded(node, false);
     std::vector<NodeId> children(Children(node).begin(), Children(node).end());
     At(node).children.count = 0;
-    for (const NodeId child : children) Remove(child);
+    // Newest first: of nodes that share a key, the newest is found at once.
+    for (auto child = children.rbegin(); child != children.rend(); ++child) Remove(*child);
     NoteRemoved(node, std::move(children));
     MoveTextsWhenWorth();
   });
@@ -99,7 +103,7 @@ void TreeView::Remove(NodeId top) {
     const NodeId node = open.back();
     open.pop_back();
     open.insert(open.end(), Children(node).begin(), Children(node).end());
-    if (keysIndexed_) UnindexKey(node);
+    UnindexKey(node);
     At(node).removed = true;
     texts_.Release(At(node).key);
     texts_.Release(At(node).text);
@@ -125,15 +129,16 @@ void TreeView::Clear() {
 }
 
 NodeId TreeView::Find(std::string_view key) const {
-  if (!keysIndexed_) {
-    byKey_.reserve(nodes_.size());
-    for (std::size_t i = 0; i < nodes_.size(); ++i) {
-      if (!nodes_[i].removed) IndexKey(static_cast<NodeId>(i));
-    }
-    keysIndexed_ = true;
-  }
+  IndexKeys();
   const auto found = byKey_.find(key);
   return found == byKey_.end() ? NodeId::kNone : *found;
+}
+
+void TreeView::IndexKeys() const {
+  if (keysIndexed_) return;
+  byKey_.reserve(nodes_.size());
+  for (std::size_t i = 0; i < nodes_.size(); ++i) IndexKey(static_cast<NodeId>(i));
+  keysIndexed_ = true;
 }
 
 void TreeView::IndexKey(NodeId node) const {
@@ -175,10 +180,15 @@ void TreeView::SetNodeText(NodeId node, std::string_view text) {
 void TreeView::MoveTextsWhenWorth() {
   if (!texts_.IsMostlyReleased()) return;
   TextArena kept;
-  for (Node& node : nodes_) {
-    if (node.removed) continue;
-    node.key = kept.Append(texts_.View(node.key));
-    node.text = kept.Append(texts_.View(node.text));
+  std::vector<std::pair<TextArena::Ref, TextArena::Ref>> moved(nodes_.size());
+  for (std::size_t i = 0; i < nodes_.size(); ++i) {
+    if (nodes_[i].removed) continue;
+    moved[i] = {kept.Append(texts_.View(nodes_[i].key)), kept.Append(texts_.View(nodes_[i].text))};
+  }
+  // Nothing below can fail: either all nodes have moved or none has.
+  for (std::size_t i = 0; i < nodes_.size(); ++i) {
+    nodes_[i].key = moved[i].first;
+    nodes_[i].text = moved[i].second;
   }
   texts_ = std::move(kept);
 }
@@ -258,7 +268,10 @@ void TreeView::NoteChanged(NodeId node) {
 
 void TreeView::Settle() {
   if (batchDepth_ > 0) return;
+  assert(!telling_);  // an observer changed the tree from a call
+  telling_ = true;
   Tell();
+  telling_ = false;
   free_.insert(free_.end(), limbo_.begin(), limbo_.end());
   limbo_.clear();
 }

@@ -25,6 +25,7 @@ enum class NodeId : std::uint32_t { kNone = 0xFFFFFFFF };
 enum class SystemColour : std::uint32_t { kWindowText = 0x80000008, kGrayText = 0x80000011 };
 
 // Draws a tree. Hears of a batch of changes once, after all of them were made; NodeId::kNone as parent is the root.
+// Must not change the tree from a call.
 class TreeObserver {
  public:
   virtual ~TreeObserver() = default;
@@ -182,6 +183,7 @@ class TreeView : public Control {
   NodeId NewNode();
   void AppendChild(ChildList& list, NodeId child);
   std::uint16_t ImageNumber(std::string_view image);
+  void IndexKeys() const;
   void IndexKey(NodeId node) const;
   void UnindexKey(NodeId node);
   void Remove(NodeId node);
@@ -212,6 +214,7 @@ class TreeView : public Control {
 
   TreeObserver* observer_ = nullptr;
   int batchDepth_ = 0;
+  bool telling_ = false;
   Pending pending_;
 };
 

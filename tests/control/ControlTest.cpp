@@ -131,6 +131,11 @@ TEST_F(ControlTest, ReadsTheDefaultPeriodOfItsRoleOncePerConnection) {
   EXPECT_THAT(history.calls,
               ElementsAre("GetProcessLogs 2026-11-20 06:00:00 2026-11-20 09:00:00 0 -1", "CloseProcessLogs"))
       << "what the user set stays";
+  history.labels["UseType"] = "";
+  control.p_Connect(5);
+  history.calls.clear();
+  control.m_GetLogByProcess();
+  EXPECT_THAT(history.calls, testing::Contains("GetLabel STATION_LOGS_DISPLAY_PERIOD")) << "set, but not to a server";
   history.labels["STATION_LOGS_DISPLAY_PERIOD"] = "1000";
   history.labels["STATION_LOGS_DISPLAY_TYPE"] = "weeks";
   control.p_Connect(4);
@@ -151,28 +156,118 @@ TEST_F(ControlTest, KeepsThePlaceAfterRefreshAndTellsOnceOfAMissingStatusBar) {
   EXPECT_THAT(platform.LogText(), HasSubstr("Quorvel: ucProcessLog.MajStatusBarInfrmMain"));
 }
 
-TEST_F(ControlTest, ATabClickRestoresTheEquivalentNode) {
+TEST_F(ControlTest, BuildsWhatTheTabTableNames) {
   control.m_GetLogByProcess();
   control.tvMotherList_NodeClick(Node("LPROC|12|0|345"));
   control.sstProcessLog_Click();
   const auto& tree = controls().tvMotherList;
-  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12") << "the run's key is no step's key";
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12") << "the equivalent of a run's key is a step's, which is not there";
   control.p_FromType(tlFromType::tlOneAlarm);
+  controls().txtDuring.SetText("");
   control.sstProcessLog_Click();
-  EXPECT_EQ(Tree(), "");
+  EXPECT_EQ(Tree(), "") << "cleared, and nothing is built";
+  EXPECT_EQ(controls().fraList.text() + ", " + platform.status, "Processes (0), 0 element");
+  EXPECT_TRUE(platform.messages.empty());
   control.p_FromType(tlFromType::tlOneUser);
   control.sstProcessLog_Click();
   ASSERT_EQ(platform.messages.size(), 1U);
   EXPECT_THAT(platform.messages[0], HasSubstr("is not part of this version"));
 }
 
+TEST_F(ControlTest, SelectsTheNodeOfTheHostAndKeepsThePlaceOverAFailedRefresh) {
+  control.p_Key("LPROC|30|1|343");
+  control.m_GetLogByProcess();
+  const auto& tree = controls().tvMotherList;
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|30|1|343");
+  history.failNumber = 5;
+  control.cmdRefresh_Click();
+  EXPECT_EQ(Tree(), "");
+  EXPECT_EQ(controls().fraList.text() + ", " + platform.status, "Processes (0), 0 element");
+  history.failNumber = 0;
+  control.cmdRefresh_Click();
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|30|1|343");
+}
+
+// Knows the tree from what it was told alone, as a picture on the screen does.
+class Mirror : public widgets::TreeObserver {
+ public:
+  explicit Mirror(widgets::TreeView& tree) : tree_(tree) { tree.ObserveTree(this); }
+  ~Mirror() override { tree_.ObserveTree(nullptr); }
+  void TreeReset() override { told_ = test::TreeText(tree_); }
+  void NodesInserted(NodeId, std::size_t, std::size_t) override { TreeReset(); }
+  void ChildrenRemoved(NodeId, std::span<const NodeId>) override { TreeReset(); }
+  void NodesChanged(std::span<const NodeId>) override { TreeReset(); }
+  void NodeExpansionChanged(NodeId) override {}
+  void TreeSelectionChanged() override {}
+  void Repaint() { EXPECT_EQ(test::TreeText(tree_), told_); }
+
+ private:
+  widgets::TreeView& tree_;
+  std::string told_;
+};
+
+TEST_F(ControlTest, AnyoneItCallsMayRepaint) {
+  Mirror mirror(controls().tvMotherList);
+  history.onCall = platform.onStatus = [&] { mirror.Repaint(); };
+  control.m_GetLogByProcess();
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2"));
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|1"));
+  control.cmdRefresh_Click();
+  control.sstProcessLog_Click();
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(ControlTest, AStatusBarThatFailsOnceIsAskedAgain) {
+  platform.onStatus = [] { throw Error(SystemError::kOutOfMemory, "Busy"); };
+  control.m_GetLogByProcess();
+  platform.onStatus = nullptr;
+  control.tvMotherList_NodeClick(Node("LPROC|30"));
+  EXPECT_EQ(platform.status, "1 element");
+}
+
+TEST_F(ControlTest, LeadsToTheConnectionOfTheStepSelectedLast) {
+  history.commands.dtCommunicationDate = test::MakeColumn<double>({DateFromCivil({2026, 11, 20, 1, 0, 0})});
+  history.commands.lngCommunicationId = test::MakeColumn<std::int32_t>({77});
+  const auto connections = [&] {
+    return control.GetNextContextKeyInLogs("LPROC|12|0|345|2|8|900|51|52", "Connections");
+  };
+  EXPECT_EQ(control.GetNextContextKeyInLogs("LPROC|12", "Connections"), "") << "no step was selected yet";
+  EXPECT_EQ(connections(), "") << "a step without commands";
+  history.commandsCount = 1;
+  EXPECT_EQ(connections(), "") << "a component that leaves columns out";
+  EXPECT_THAT(platform.LogText(), HasSubstr("\tQuorvel: ucProcessLog.GetNextContextKeyInLogs\r\n"));
+  datasource::CommandLogRecords& commands = history.commands;
+  commands.lngCommandLogId = commands.lngKind = commands.lngResult = commands.lngCommunicationId;
+  commands.strText = commands.strReport = test::MakeTexts({""});
+  commands.dtStartDate = commands.dtEndDate = commands.dtCommunicationDate;
+  commands.bInProgress = commands.bResultOk = commands.bResultNotOk = test::MakeColumn<std::int16_t>({0});
+  EXPECT_EQ(connections(), "LCOMM|2026/11|2026/11/20|77|12|0|345|2|8|900|51|52|");
+  history.failNumber = 5;
+  EXPECT_EQ(connections(), "");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(control.GetNextContextKeyInLogs("", "Processes"), "");
+  EXPECT_EQ(control.GetNextContextKeyInLogs("LPROC|13", "Alarms"), "");
+  EXPECT_EQ(control.GetNextContextKeyInLogs("LPROC|13", "Users"), "LUSR|8|13|0|345|900|51|52");
+}
+
+TEST(Routing, KnowsEveryShapeOnce) {
+  for (const NodeRoute& route : NodeRoutes()) {
+    std::string key(route.prefix);
+    for (std::size_t field = 1; field < route.fields; ++field) key += "|7";
+    EXPECT_EQ(&RouteOf(key), &route) << key;
+  }
+  EXPECT_EQ(RouteOf("LPROC|1|2").click, ClickRoutine::kNone);
+  EXPECT_EQ(RouteOf("").click, ClickRoutine::kNone);
+}
+
 TEST_F(ControlTest, ReleasesItsSourcesInOrder) {
   {
     ucProcessLog other(platform, factory);
     other.m_GetLogByProcess();
+    other.GetNextContextKeyInLogs("LPROC|12|0|345|2|8|900|51|52", "Connections");
     history.calls.clear();
   }
-  EXPECT_THAT(history.calls, ElementsAre("release ProcessLog", "release Labels"));
+  EXPECT_THAT(history.calls, ElementsAre("release CommandLog", "release ProcessLog", "release Labels"));
 }
 
 TEST_F(ControlTest, StateListsKeepTheChoiceOrTakeItsCounterpart) {
@@ -211,9 +306,12 @@ TEST_F(ControlTest, PeriodIsLimitedHiddenAndChecked) {
   controls().txtDuring.SetText("soon");
   control.cboDuringUnit_Click();
   EXPECT_TRUE(platform.messages.empty());
-  controls().updDuring.SetValue(4);
-  control.updDuring_Change();
-  EXPECT_EQ(controls().txtDuring.text(), "4");
+  control.updDuring_DownClick();
+  EXPECT_EQ(controls().txtDuring.text(), "1") << "no number: begins with the least";
+  controls().txtDuring.SetText("98");
+  control.updDuring_UpClick();
+  control.updDuring_UpClick();
+  EXPECT_EQ(controls().txtDuring.text(), "99");
   EXPECT_EQ(ReadOptions(controls(), StateFilter::kAll).groupBy, "0123");
   control.m_GetLogByProcess();
   controls().txtDuring.SetText("soon");

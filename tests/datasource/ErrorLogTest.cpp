@@ -99,7 +99,8 @@ TEST_F(ErrorLogTest, ObeysAHeaderEditedByHandAndRewritesIt) {
 }
 
 TEST_F(ErrorLogTest, SurvivesHeadersThatAreNone) {
-  for (const char* header : {"", "x", "-1,-1", "0,100", "99999999999,30", "50,999999999", "50"}) {
+  for (const char* header :
+       {"", "x", "-1,-1", "0,100", "99999999999,30", "50,999999999", "-99999999999,99999999999", "50"}) {
     PutLog(LogOf(60 * 1024, header));
     Write();
     const std::string log = platform.LogText();
@@ -115,6 +116,15 @@ TEST_F(ErrorLogTest, GoesOnWhereAStepFails) {
   Write();
   EXPECT_EQ(platform.LogText(), written);
   EXPECT_GT(std::filesystem::file_size(platform.folder / "Ostrana.log.tmp"), kLimit * 2 / 3);
+  // A deletion that fails: the rename puts the trimmed log in its place all the same.
+  platform.renameFails = false;
+  platform.deleteFails = true;
+  std::filesystem::remove(platform.folder / "Ostrana.log.tmp");
+  PutLog(log);
+  Write();
+  EXPECT_TRUE(platform.LogText().starts_with(kHead));
+  EXPECT_TRUE(platform.LogText().ends_with(written));
+  EXPECT_LT(platform.LogText().size(), kLimit);
   // A folder that is not there: nothing to write, nothing raised, and the pointer is right.
   std::filesystem::remove_all(platform.folder);
   Write();

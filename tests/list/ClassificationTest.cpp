@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "list/ChildList.h"
+#include "support/RecordingPlatform.h"
 #include "widgets/TreeView.h"
 
 namespace quorvel::list {
@@ -21,22 +22,28 @@ class OneRowList : public testing::Test {
     widgets::TreeView tree("tree");
     const widgets::NodeId root = tree.Add(widgets::NodeId::kNone, "LPROC|1", "Prices", "Process");
     tree.Add(root, "LPROC|1|0|7", "Run", "ProcessWaitingCom");
+    list.SetHeaders({{.caption = "Processes"}});
     list.SetRows(ChildRows(tree, root));
   }
+  test::RecordingPlatform platform;
+  datasource::ErrorsProcess errors{platform};
   widgets::ListView list{"lvMotherList"};
 };
 
 TEST_F(OneRowList, OutlivesItsTreeAndTakesTheOutcomeInTheFixedOrder) {
   EXPECT_EQ(list.Cell(0, 0), "Run");
   EXPECT_EQ(list.Key(0), "LPROC|1|0|7");
-  EXPECT_EQ(SetStateAndIconToListview(list, 0, 0, 0, 0, 0), "Not executed");
+  EXPECT_EQ(SetStateAndIconToListview(errors, list, 0, 0, 0, 0, 0), "Not executed");
   EXPECT_EQ(list.Icon(0), "ProcessWaitingCom") << "no flag, no icon";
-  EXPECT_EQ(SetStateAndIconToListview(list, 0, 0, 0, kSet, kSet), "Unknown") << "unknown before OK";
+  EXPECT_EQ(SetStateAndIconToListview(errors, list, 0, 0, 0, kSet, kSet), "Unknown") << "unknown before OK";
   EXPECT_EQ(list.Icon(0), "ProcessUndefined");
-  EXPECT_EQ(SetStateAndIconToListview(list, 0, 0, 1, kSet, kSet), "NOT OK") << "any value but 0 counts";
-  EXPECT_EQ(SetStateAndIconToListview(list, 0, kSet, kSet, 0, 0), "In progress");
-  EXPECT_EQ(SetStateAndIconToListview(list, 0, 0, 0, 2, 0), "OK");
+  EXPECT_EQ(SetStateAndIconToListview(errors, list, 0, 0, 1, kSet, kSet), "NOT OK") << "any value but 0 counts";
+  EXPECT_EQ(SetStateAndIconToListview(errors, list, 0, kSet, kSet, 0, 0), "In progress");
+  EXPECT_EQ(SetStateAndIconToListview(errors, list, 0, 0, 0, 2, 0), "OK");
   EXPECT_EQ(list.Icon(0), "ProcessOk");
+  EXPECT_EQ(platform.LogText(), "");
+  EXPECT_EQ(SetStateAndIconToListview(errors, list, 1, 0, 0, kSet, 0), "") << "no such row";
+  EXPECT_NE(platform.LogText(), "");
 }
 
 TEST(Classification, OfUsersLooksAtOkFirstAndOnlyMinusOneIsTrue) {

@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
 #include <limits>
 #include <new>
 #include <stdexcept>
+#include <typeinfo>
 
 #include "platform/Error.h"
 
@@ -24,7 +26,8 @@ TEST(Dates, CountDaysFromTheEndOf1899WithTheTimeAsAbsoluteFraction) {
   EXPECT_DOUBLE_EQ(At("1899-12-29 06:00:00"), -1.25);
   // A fraction that rounds to midnight belongs to the next day.
   EXPECT_EQ(FormatFixedDateTime(1.9999999), "1900-01-01 00:00:00");
-  EXPECT_DOUBLE_EQ(DatePart(-1.25) - TimePart(-1.25), -1.25);
+  EXPECT_DOUBLE_EQ(AtTimeOf(-1.75, -7.25), -1.25);
+  EXPECT_DOUBLE_EQ(AtTimeOf(46000.75, 0.5), 46000.5) << "the day alone, whatever its time";
 }
 
 TEST(Dates, EverySecondOfADaySurvivesTextAndBack) {
@@ -73,6 +76,9 @@ TEST(Error, IsMadeOfWhateverWasThrown) {
   EXPECT_EQ(NumberOf(std::out_of_range("")), 9);
   EXPECT_EQ(NumberOf(std::overflow_error("")), 6);
   EXPECT_EQ(NumberOf(std::runtime_error("")), 5);
+  EXPECT_EQ(NumberOf(std::bad_cast()), 13);
+  EXPECT_EQ(NumberOf(std::filesystem::filesystem_error("", std::make_error_code(std::errc::no_such_file_or_directory))),
+            53);
   EXPECT_EQ(NumberOf(42), 5);
   EXPECT_EQ(CurrentError().number(), 0);
 }

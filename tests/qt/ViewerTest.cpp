@@ -100,6 +100,15 @@ TEST_F(ViewerTest, RefreshByKeyAndButtonKeepsWhatIsDrawnInStep) {
   EXPECT_EQ(viewer->list().model()->index(0, 0).data().toString(), "2026-11-20 07:00:00 (Batch No.343)");
 }
 
+TEST_F(ViewerTest, WhatTheControlSaysIsNoGesture) {
+  const DateValue oddTime = 0.3 + 1e-7;  // between two seconds
+  controls().dtpHour.SetValue(oddTime);
+  EXPECT_EQ(controls().dtpHour.value(), oddTime);
+  controls().sstProcessLog.SetCurrent(1);
+  EXPECT_EQ(Queries(), 1U);
+  EXPECT_TRUE(platform.messages.empty());
+}
+
 TEST_F(ViewerTest, TheSplitterFollowsThePointer) {
   auto& grip = Find<QWidget>("imgSplitter");
   const int before = viewer->tree().width();

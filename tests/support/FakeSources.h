@@ -1,12 +1,14 @@
 // Record sources that answer with what a test puts into them, and keep a record of what was asked.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "datasource/CommandLog.h"
 #include "datasource/Labels.h"
 #include "datasource/ProcessLog.h"
 
@@ -99,14 +101,18 @@ struct FakeHistory {
   std::int32_t processLogsCount = 0;
   datasource::ProcessLogRecords stations;
   std::int32_t stationsCount = 0;
+  datasource::CommandLogRecords commands;
+  std::int32_t commandsCount = 0;
   std::int32_t status = 0;      // of every query
   std::int32_t failNumber = 0;  // 0 = nothing fails
   std::vector<std::string> calls;
+  std::function<void()> onCall;  // what else happens while the component works
 };
 
 // Notes a call and fails it when the test wants so.
 inline void Ask(FakeHistory& history, const std::string& call) {
   history.calls.push_back(call);
+  if (history.onCall) history.onCall();
   if (history.failNumber != 0) throw Error(history.failNumber, "Hub", "The history cannot be read");
 }
 
@@ -170,6 +176,31 @@ class FakeProcessLog : public datasource::ProcessLog {
   std::int32_t count_ = 0;
 };
 
+class FakeCommandLog : public datasource::CommandLog {
+ public:
+  explicit FakeCommandLog(FakeHistory& history) : history_(history) {}
+  ~FakeCommandLog() override { history_.calls.emplace_back("release CommandLog"); }
+  std::int32_t lngCount() const override { return history_.commandsCount; }
+  void GetCommandLogByStepLog(std::int32_t, std::int32_t stepLog, std::int32_t& status) override {
+    Ask(history_, "GetCommandLogByStepLog " + std::to_string(stepLog));
+    status = history_.status;
+  }
+  void CloseCommandLogByStepLog(std::int32_t) override { Ask(history_, "CloseCommandLogByStepLog"); }
+  const datasource::CommandLogRecords& Records() const override { return history_.commands; }
+
+  void GetCommunications(std::int32_t, DateValue, DateValue, std::int32_t, std::int32_t, std::int32_t,
+                         std::int32_t&) override {}
+  void CloseCommunications(std::int32_t) override {}
+  void GetCommunicationsByMonth(std::int32_t, DateValue, DateValue, std::int32_t, std::int32_t,
+                                std::int32_t&) override {}
+  void CloseCommunicationsByMonth(std::int32_t) override {}
+  void GetCommandLogByCommunication(std::int32_t, std::int32_t, std::int32_t&) override {}
+  void CloseCommandLogByCommunication(std::int32_t) override {}
+
+ private:
+  FakeHistory& history_;
+};
+
 class FakeFactory : public datasource::RecordSourceFactory {
  public:
   explicit FakeFactory(FakeHistory& history) : history_(history) {}
@@ -177,6 +208,7 @@ class FakeFactory : public datasource::RecordSourceFactory {
     history_.calls.push_back("create " + std::string(classIdentifier) + " on \"" + std::string(server) + "\"");
     if (classIdentifier == datasource::Labels::kClassIdentifier) return std::make_unique<FakeLabels>(history_);
     if (classIdentifier == datasource::ProcessLog::kClassIdentifier) return std::make_unique<FakeProcessLog>(history_);
+    if (classIdentifier == datasource::CommandLog::kClassIdentifier) return std::make_unique<FakeCommandLog>(history_);
     throw Error(SystemError::kCannotCreateComponent, "No " + std::string(classIdentifier));
   }
 

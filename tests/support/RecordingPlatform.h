@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -24,11 +25,16 @@ class RecordingPlatform : public StandardPlatform {
   void OpenFile(const std::filesystem::path& /*file*/) override {}
   void SetHostStatusText(std::string_view text) override {
     ++statusCalls;
+    if (onStatus) onStatus();
     if (!hasStatusBar) throw Error(SystemError::kUnsupportedMember, "No stStatusBar");
     status = text;
   }
   DateValue Now() const override { return DateFromCivil({2026, 11, 20, 12, 0, 0}); }
   std::filesystem::path TemporaryFolder() const override { return folder; }
+  void DeleteFile(const std::filesystem::path& file) override {
+    if (deleteFails) throw Error(SystemError::kPathAccess, "Delete refused");
+    StandardPlatform::DeleteFile(file);
+  }
   void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) override {
     if (renameFails) throw Error(SystemError::kPathAccess, "Rename refused");
     StandardPlatform::RenameFile(file, newName);
@@ -48,6 +54,8 @@ class RecordingPlatform : public StandardPlatform {
   std::string status;
   int statusCalls = 0;
   bool hasStatusBar = true;
+  std::function<void()> onStatus;  // what else the host does then
+  bool deleteFails = false;
   bool renameFails = false;
 };
 

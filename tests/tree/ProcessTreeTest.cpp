@@ -9,6 +9,7 @@
 #include "support/RecordingPlatform.h"
 #include "support/TreeText.h"
 #include "tree/NavigationContext.h"
+#include "tree/NodeKey.h"
 #include "tree/StateGroups.h"
 
 namespace quorvel::tree {
@@ -21,7 +22,7 @@ using widgets::NodeId;
 class ProcessTreeTest : public testing::Test {
  protected:
   std::string Build(const StationRows& rows) {
-    AppendProcessNodes(rows.Records(), rows.count(), platform, tree);
+    AppendProcessNodes(rows.Records(), rows.count(), platform, errors, tree);
     return test::TreeText(tree);
   }
   std::int32_t ErrorOf(const std::function<void()>& action) {
@@ -34,6 +35,7 @@ class ProcessTreeTest : public testing::Test {
   }
 
   test::RecordingPlatform platform;
+  datasource::ErrorsProcess errors{platform};
   widgets::TreeView tree{"tvMotherList"};
 };
 
@@ -76,52 +78,62 @@ TEST_F(ProcessTreeTest, ARunThatComesAgainIsANewNode) {
 TEST_F(ProcessTreeTest, RefusesAComponentThatLeavesRowsOut) {
   StationRows rows;
   rows.Station(12, 1, 7, StationRows::kOk);
-  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(rows.Records(), 2, platform, tree); }), 9);
+  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(rows.Records(), 2, platform, errors, tree); }), 9);
   auto records = rows.Records();
   records.bResultUnknown = {};
-  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(records, 1, platform, tree); }), 9);
+  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(records, 1, platform, errors, tree); }), 9);
   EXPECT_EQ(tree.Count(), 0U);
 }
 
-TEST(StateGroups, PercentagesRoundHalvesToEvenAndCheckTheirBounds) {
-  EXPECT_EQ(strGetNumberAndPurcent(6, 3), "50% (3)");
-  EXPECT_EQ(strGetNumberAndPurcent(200, 1), "0% (1)");
-  EXPECT_EQ(strGetNumberAndPurcent(200, 3), "2% (3)");
-  EXPECT_EQ(strGetNumberAndPurcent(0, 3), "");
+TEST_F(ProcessTreeTest, PercentagesRoundHalvesToEvenAndCheckTheirBounds) {
+  EXPECT_EQ(strGetNumberAndPurcent(errors, 6, 3), "50% (3)");
+  EXPECT_EQ(strGetNumberAndPurcent(errors, 200, 1), "0% (1)");
+  EXPECT_EQ(strGetNumberAndPurcent(errors, 200, 3), "2% (3)");
+  EXPECT_EQ(strGetNumberAndPurcent(errors, 0, 3), "");
   EXPECT_EQ(StateGroupText(StateGroup::kInProgress, 20, 1), "In progress : 05% (1)");
-  const auto errorOf = [](std::int32_t total, std::int32_t count) {
-    try {
-      StateGroupText(StateGroup::kOk, total, count);
-    } catch (const Error& error) {
-      return error.number();
-    }
-    return 0;
+  const auto text = [](std::int32_t total, std::int32_t count) {
+    return [=] { StateGroupText(StateGroup::kOk, total, count); };
   };
-  EXPECT_EQ(errorOf(0, 1), 11);
-  EXPECT_EQ(errorOf(2'000'000'000, 21'474'837), 6);
-  EXPECT_EQ(errorOf(2'000'000'000, 21'474'836), 0);
+  EXPECT_EQ(ErrorOf(text(0, 1)), 11);
+  EXPECT_EQ(ErrorOf(text(2'000'000'000, 21'474'837)), 6);
+  EXPECT_EQ(ErrorOf(text(2'000'000'000, 21'474'836)), 0);
+  EXPECT_EQ(platform.LogText(), "");
+  EXPECT_EQ(strGetNumberAndPurcent(errors, 2'000'000'000, 21'474'837), "");
+  EXPECT_NE(platform.LogText().find("ErrorSystem      : 6\r\n"), std::string::npos);
 }
 
 TEST_F(ProcessTreeTest, RelabelsGroupsAndImageByKey) {
   StationRows rows;
   rows.Station(12, 345, 7, StationRows::kOk).Station(12, 345, 8, StationRows::kNotOk);
   Build(rows);
-  SetPurcentAndIconToTreeview(tree, "LPROC|12|0|345", {.total = 20, .notOk = 1, .ok = 19}, true);
+  SetPurcentAndIconToTreeview(errors, tree, "LPROC|12|0|345", {.total = 20, .notOk = 1, .ok = 19}, true);
   EXPECT_EQ(tree.Text(tree.Find("LPROC|12|0|345|2")), "NOT OK : 05% (1)");
   EXPECT_EQ(tree.Image(tree.Find("LPROC|12|0|345")), "ProcessNONOK");
-  EXPECT_EQ(ErrorOf([&] { SetPurcentAndIconToTreeview(tree, "LPROC|12|0|345", {.total = 1, .unknown = 1}, true); }),
-            35601);
-  SetPurcentAndIconToTreeview(tree, "LPROC|12|0|345", {.total = 1, .unknown = 1}, false);
+  EXPECT_EQ(platform.LogText(), "");
+  SetPurcentAndIconToTreeview(errors, tree, "LPROC|12|0|345", {.total = 1, .unknown = 1}, true);
+  EXPECT_EQ(tree.Image(tree.Find("LPROC|12|0|345")), "ProcessNONOK");
+  SetPurcentAndIconToTreeview(errors, tree, "LPROC|12|0|345", {.total = 0, .ok = 1}, true);
+  for (const char* number : {"ErrorSystem      : 35601\r\n", "ErrorSystem      : 11\r\n"}) {
+    EXPECT_NE(platform.LogText().find(number), std::string::npos) << "a group that is not there, a total of none";
+  }
+  EXPECT_TRUE(platform.messages.empty());
+  SetPurcentAndIconToTreeview(errors, tree, "LPROC|12|0|345", {.total = 1, .unknown = 1}, false);
   EXPECT_EQ(tree.Image(tree.Find("LPROC|12|0|345")), "ProcessUndefined");
   // Mixed outcomes keep the image by one rule and turn it by the other.
   EXPECT_EQ(GetProcessIconName({.notOk = true, .ok = true}, ""), "");
-  SetIconToTreeview(tree, "LPROC|12|0|345", {.notOk = true, .ok = true}, "");
+  SetIconToTreeview(errors, tree, "LPROC|12|0|345", {.notOk = true, .ok = true}, "");
   EXPECT_EQ(tree.Image(tree.Find("LPROC|12|0|345")), "ProcessUndefined");
   EXPECT_EQ(GetProcessIconName({.inProgress = true}, "Waiting prerequisite"), "ProcessWaitingPrerequisite");
-  SetIconToTreeview(tree, "LPROC|12|0|345", {.inProgress = true}, "Waiting prerequisite");
+  SetIconToTreeview(errors, tree, "LPROC|12|0|345", {.inProgress = true}, "Waiting prerequisite");
   EXPECT_EQ(tree.Image(tree.Find("LPROC|12|0|345")), "ProcessStart");
-  SetIconToTreeview(tree, "LPROC|12|0|345", {}, "Waiting station out com");
+  SetIconToTreeview(errors, tree, "LPROC|12|0|345", {}, "Waiting station out com");
   EXPECT_EQ(tree.Image(tree.Find("LPROC|12|0|345")), "ProcessWaitingStation");
+}
+
+TEST(NodeKey, KeepsASeparatorInANameApart) {
+  const std::string key = MakeKey(util::kImportPrefix, 3, FieldOfName("Lyon | Nord"), "");
+  EXPECT_EQ(util::SplitKey(key).size(), 4U);
+  EXPECT_EQ(NameOfField(util::Identifiant(key, 3)), "Lyon | Nord");
 }
 
 TEST_F(ProcessTreeTest, ContextRemembersDeeperLevels) {

@@ -61,6 +61,8 @@ TEST(ListView, MakesRowsOnRequestAndLaysSingleChangesOver) {
   EXPECT_EQ(list.Icon(4), "User_Ok");
   EXPECT_EQ(list.Look(1).colour, SystemColour::kGrayText);
   EXPECT_THROW(list.Cell(1'000'000, 0), Error);
+  EXPECT_THROW(list.Cell(0, 2), Error);
+  EXPECT_THROW(list.Icon(1'000'000), Error);
   EXPECT_THROW(list.SetHeaderWidth(2, 100), Error);
 }
 

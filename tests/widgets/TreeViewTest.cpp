@@ -155,6 +155,29 @@ TEST(TreeView, StaysEqualToAPlainTreeUnderRandomChanges) {
   }
 }
 
+TEST(TreeView, KeepsTextsOfAnyLengthApart) {
+  TreeView tree("tree");
+  std::vector<std::string> texts;
+  for (const std::size_t length : {1U, 65535U, 65536U, 65537U, 3U, 1'000'000U, 70'000U, 5U, 131'072U, 0U, 2U}) {
+    texts.emplace_back(length, static_cast<char>('a' + texts.size()));
+    tree.Add(NodeId::kNone, texts.back(), texts.back(), "");
+  }
+  for (std::size_t row = 0; row < texts.size(); ++row) {
+    EXPECT_TRUE(tree.Text(tree.Child(NodeId::kNone, row)) == texts[row]) << row;
+    EXPECT_TRUE(tree.Key(tree.Child(NodeId::kNone, row)) == texts[row]) << row;
+  }
+}
+
+TEST(TreeView, FindsTheNewestThoughSlotsAreUsedAgain) {
+  TreeView tree("tree");
+  const NodeId first = tree.Add(NodeId::kNone, "first", "", "");
+  tree.Add(first, "gone", "", "");
+  tree.Add(NodeId::kNone, "key", "older, in a later slot", "");
+  tree.RemoveChildren(first);
+  const NodeId newest = tree.Add(NodeId::kNone, "key", "newest, in the first free slot", "");
+  EXPECT_EQ(tree.Find("key"), newest);
+}
+
 TEST(TreeView, HoldsAMillionNodes) {
   TreeView tree("tree");
   tree.InBatch([&] {
