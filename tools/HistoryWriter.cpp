@@ -124,10 +124,13 @@ struct HistoryWriter::Session {
 };
 
 std::string Describe(const RowCounts& counts) {
-  const auto part = [](std::int32_t count, const char* what) { return std::to_string(count) + " " + what; };
-  return part(counts.stations, "stations, ") + part(counts.processes, "processes, ") + part(counts.runs, "runs, ") +
-         part(counts.stationRuns, "station rows, ") + part(counts.taskRuns, "tasks, ") + part(counts.steps, "steps, ") +
-         part(counts.commands, "commands");
+  const auto part = [](std::int32_t count, const char* one, const char* many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+  };
+  return part(counts.stations, "station, ", "stations, ") + part(counts.processes, "process, ", "processes, ") +
+         part(counts.runs, "run, ", "runs, ") + part(counts.stationRuns, "station row, ", "station rows, ") +
+         part(counts.taskRuns, "task, ", "tasks, ") + part(counts.steps, "step, ", "steps, ") +
+         part(counts.commands, "command", "commands");
 }
 
 HistoryWriter::HistoryWriter(std::filesystem::path file, Existing existing)
