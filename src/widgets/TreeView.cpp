@@ -91,7 +91,7 @@ void TreeView::RemoveChildren(NodeId node) {
     std::vector<NodeId> children(Children(node).begin(), Children(node).end());
     At(node).children.count = 0;
     // Newest first: of nodes that share a key, the newest is found at once.
-    for (auto child = children.rbegin(); child != children.rend(); ++child) Remove(*child);
+    std::for_each(children.rbegin(), children.rend(), [this](NodeId child) { Remove(child); });
     NoteRemoved(node, std::move(children));
     MoveTextsWhenWorth();
   });

@@ -125,8 +125,11 @@ TEST_F(ErrorLogTest, GoesOnWhereAStepFails) {
   EXPECT_TRUE(platform.LogText().starts_with(kHead));
   EXPECT_TRUE(platform.LogText().ends_with(written));
   EXPECT_LT(platform.LogText().size(), kLimit);
-  // A folder that is not there: nothing to write, nothing raised, and the pointer is right.
+  // A folder that is not there, and one that cannot be read since it is none: nothing raised, and the pointer is right.
   std::filesystem::remove_all(platform.folder);
+  Write();
+  EXPECT_FALSE(std::filesystem::exists(platform.folder));
+  std::ofstream(platform.folder) << "no folder";
   Write();
   EXPECT_EQ(platform.pointers.back(), MousePointer::kDefault);
 }
@@ -174,6 +177,7 @@ TEST_F(ErrorsProcessTest, KeepsWhatTheErrorCarriesAndStillShowsWhenTheLogFails) 
     EXPECT_EQ(error.helpContext(), 42);
   }
   std::filesystem::remove_all(platform.folder);
+  std::ofstream(platform.folder) << "no folder";
   Meet(5);
   EXPECT_EQ(platform.messages.size(), 1U);
   EXPECT_EQ(Logging(errors, "Label", 3, []() -> int { throw std::bad_alloc(); }), 3);
