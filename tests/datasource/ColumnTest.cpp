@@ -3,11 +3,19 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 #include <string>
 
+#include "datasource/AlarmsLog.h"
+#include "datasource/CommandLog.h"
 #include "datasource/Contract.h"
 #include "datasource/ProcessLog.h"
+#include "datasource/Quorvel.h"
+#include "datasource/Saves.h"
+#include "datasource/StepLog.h"
+#include "datasource/TaskSchedulerLog.h"
+#include "datasource/UsersImport.h"
 #include "datasource/Utf8.h"
 
 namespace quorvel::datasource {
@@ -96,15 +104,29 @@ TEST(ContractTest, RequireColumnsNamesTheColumnThatIsShort) {
   EXPECT_THROW(RequireColumns("NoQuery", records, 0), Error);
 }
 
+template <class Source, class Records>
+void AddColumns(std::map<std::string_view, std::set<std::string_view>>& columns) {
+  const Records records;
+  Records::ForEachColumn(records,
+                         [&](std::string_view name, const auto&) { columns[Source::kClassIdentifier].insert(name); });
+}
+
 TEST(ContractTest, EachPromisedColumnIsAColumnOfItsClass) {
-  const ProcessLogRecords records;
-  std::set<std::string_view> names;
-  ProcessLogRecords::ForEachColumn(records, [&](std::string_view name, const auto&) { names.insert(name); });
+  std::map<std::string_view, std::set<std::string_view>> columns;
+  AddColumns<ProcessLog, ProcessLogRecords>(columns);
+  AddColumns<Quorvel, TaskRunRecords>(columns);
+  AddColumns<StepLog, StepLogRecords>(columns);
+  AddColumns<CommandLog, CommandLogRecords>(columns);
+  AddColumns<AlarmsLog, AlarmsLogRecords>(columns);
+  AddColumns<Saves, SavesRecords>(columns);
+  AddColumns<UsersImport, UsersImportRecords>(columns);
+  AddColumns<TaskSchedulerLog, TaskSchedulerLogRecords>(columns);
   std::set<std::string_view> queries;
   for (const QueryContract& query : Queries()) {
     EXPECT_TRUE(queries.insert(query.query).second) << query.query << " stands twice";
-    if (query.classIdentifier != ProcessLog::kClassIdentifier) continue;
-    for (const std::string_view column : query.columns) EXPECT_TRUE(names.contains(column)) << column;
+    for (const std::string_view column : query.columns) {
+      EXPECT_TRUE(columns[query.classIdentifier].contains(column)) << query.query << " promises " << column;
+    }
   }
   EXPECT_EQ(queries.size(), 22U);
 }
