@@ -21,6 +21,7 @@ using datasource::kTrue;
 
 constexpr std::int32_t kStationId = 1;
 constexpr std::string_view kNoCommandLine = "unattended (no command line)";
+constexpr std::string_view kInterrupted = "Interrupted: no end was logged";
 
 // Kind codes of commands: what dpkg was about to do, and the state that a package reached.
 constexpr std::int32_t kActionCommand = 1;
@@ -94,10 +95,12 @@ ResultFlags ResultOf(AptState state) {
   return kNoResult;
 }
 
-AptState StateOf(std::span<const AptStep> steps) {
+// A task that lacks a package is still running, or it failed.
+AptState StateOf(std::span<const AptStep> steps, bool running) {
   if (CountIn(AptState::kFailed, steps) > 0) return AptState::kFailed;
   if (CountIn(AptState::kDone, steps) == steps.size()) return AptState::kDone;
-  return CountIn(AptState::kNotBegun, steps) == steps.size() ? AptState::kNotBegun : AptState::kRunning;
+  if (CountIn(AptState::kNotBegun, steps) == steps.size()) return AptState::kNotBegun;
+  return running ? AptState::kRunning : AptState::kFailed;
 }
 
 void AddSentence(std::string& text, std::string_view sentence) {
@@ -106,17 +109,30 @@ void AddSentence(std::string& text, std::string_view sentence) {
   text += sentence;
 }
 
-std::string ReportOf(std::span<const AptStep> steps) {
+// "2 of 7 packages failed: nginx:amd64, vim:amd64; 3 not begun".
+std::string ReportOf(std::span<const AptStep> steps, bool running) {
+  constexpr std::size_t kMostNames = 3;
   const std::size_t failed = CountIn(AptState::kFailed, steps);
-  const std::string all = Plural(steps.size(), "package");
-  return failed == 0 ? all : std::to_string(failed) + " of " + all + " failed";
+  const std::size_t notBegun = CountIn(AptState::kNotBegun, steps);
+  std::string report = Plural(steps.size(), "package");
+  if (failed > 0) {
+    report = std::to_string(failed) + " of " + report + " failed";
+    std::size_t named = 0;
+    for (const AptStep& step : steps) {
+      if (step.state != AptState::kFailed || named == kMostNames) continue;
+      report.append(named++ == 0 ? ": " : ", ").append(step.package);
+    }
+    if (failed > kMostNames) report += ", ...";
+  }
+  if (notBegun > 0 && !running) AddSentence(report, std::to_string(notBegun) + " not begun");
+  return report;
 }
 
 std::string ReportOf(const AptRun& run) {
   const AptInvocation& invocation = *run.invocation;
   std::string report = invocation.error;
-  if (invocation.end == 0 && run.state == AptState::kFailed) AddSentence(report, "Interrupted: no end was logged");
-  AddSentence(report, ReportOf(run.steps));
+  if (invocation.end == 0 && run.state == AptState::kFailed) AddSentence(report, kInterrupted);
+  AddSentence(report, ReportOf(run.steps, run.state == AptState::kRunning));
   if (!invocation.requestedBy.empty()) AddSentence(report, "requested by " + invocation.requestedBy);
   return report;
 }
@@ -127,6 +143,28 @@ std::string ReportOf(const AptStep& step) {
   }
   if (step.records.empty()) return "dpkg never began";
   return "Stopped at: " + step.records.back()->text;
+}
+
+// What a state that nobody wanted means.
+struct StuckState {
+  std::string_view state;
+  std::string_view meaning;
+};
+constexpr StuckState kStuckStates[] = {
+    {"half-installed", "its files were not written or deleted to the end"},
+    {"unpacked", "it was never configured"},
+    {"half-configured", "its own script failed or was cut off"},
+    {"triggers-awaited", "packages that it waits for never ran their triggers"},
+    {"triggers-pending", "its triggers never ran"},
+    {"config-files", "its settings were not deleted"},
+};
+
+std::string ReasonOf(const AptInvocation& invocation, const DpkgRecord& record) {
+  std::string reason = "dpkg did not go on from here";
+  const auto* const stuck = std::ranges::find(kStuckStates, record.state, &StuckState::state);
+  if (stuck != std::end(kStuckStates)) reason.append(": ").append(stuck->meaning);
+  AddSentence(reason, invocation.end == 0 ? kInterrupted : std::string_view(invocation.error));
+  return reason;
 }
 
 std::string SettingsOf(const AptStep& step) {
@@ -168,9 +206,10 @@ class RunWriter {
   void WriteTask(const TaskKind& kind) {
     const std::vector<AptStep> steps = StepsOf(kind);
     if (steps.empty()) return;
-    const AptState state = StateOf(steps);
+    const bool running = run_.state == AptState::kRunning;
+    const AptState state = StateOf(steps, running);
     const bool begun = state != AptState::kNotBegun;
-    const std::string report = ReportOf(steps);
+    const std::string report = ReportOf(steps, running);
     const auto number = static_cast<std::int32_t>(&kind - kTaskKinds) + 1;
     const std::int32_t id = writer_.Add(row_, TaskRunRow{.stationId = kStationId,
                                                          .position = ++position_,
@@ -180,7 +219,7 @@ class RunWriter {
                                                          .notExecuted = begun ? kFalse : kTrue,
                                                          .report = report,
                                                          .start = begun ? row_.start : 0,
-                                                         .end = state == AptState::kRunning ? 0 : row_.end,
+                                                         .end = begun && state != AptState::kRunning ? row_.end : 0,
                                                          .result = ResultOf(state)});
     for (const AptStep& step : steps) WriteStep(id, step);
   }
@@ -210,10 +249,11 @@ class RunWriter {
     const bool last = &record == step.records.back();
     const bool failed = last && step.state == AptState::kFailed;
     const bool running = last && step.state == AptState::kRunning;
+    const std::string report = failed ? ReasonOf(*run_.invocation, record) : std::string();
     writer_.Add(stepLogId, CommandRow{.kind = record.state.empty() ? kActionCommand : kStateCommand,
                                       .code = failed ? 1 : 0,
                                       .text = record.text,
-                                      .report = failed ? "dpkg did not go on from here" : "",
+                                      .report = report,
                                       .start = record.date,
                                       .end = running ? 0 : record.date,
                                       .result = last ? ResultOf(step.state) : kSuccessResult});

@@ -129,8 +129,18 @@ class Matcher {
     };
     for (AptStep& step : run.steps) step.state = judge(step);
     for (AptStep& step : run.triggers) step.state = judge(step);
+    if (!endedWell) TellCauseFromRest(run.steps);
     const std::size_t failed = CountIn(AptState::kFailed, run.steps) + CountIn(AptState::kFailed, run.triggers);
     run.state = running ? AptState::kRunning : endedWell && failed == 0 ? AptState::kDone : AptState::kFailed;
+  }
+
+  // Where dpkg got stuck with a package, those that it never came to did not fail themselves.
+  static void TellCauseFromRest(std::vector<AptStep>& steps) {
+    const auto isStuck = [](const AptStep& step) { return step.state == AptState::kFailed && !step.records.empty(); };
+    if (std::ranges::none_of(steps, isStuck)) return;
+    for (AptStep& step : steps) {
+      if (step.records.empty() && step.state == AptState::kFailed) step.state = AptState::kNotBegun;
+    }
   }
 
   std::span<const AptInvocation> invocations_;

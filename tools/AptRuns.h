@@ -34,7 +34,8 @@ struct AptRuns {
 
 // The last invocation is running when it has no end and began less than six hours before `now`; others without an end
 // were interrupted, and failed. A package is done when its last state is the one wanted; where the dpkg log does not
-// reach back to an invocation, apt's word is taken. The result refers to both logs; `log` must be sorted.
+// reach back to an invocation, apt's word is taken. When a run stopped at packages, the ones behind them are not begun.
+// The result refers to both logs; `log` must be sorted.
 AptRuns MatchAptRuns(const AptHistory& history, const DpkgLog& log, DateValue now);
 
 // So many of the steps are in that state.

@@ -46,21 +46,58 @@ constexpr std::string_view kOddStations[] = {
 };
 
 constexpr Failure kProgramFailures[] = {
-    {"Disk full: 12 MB free on C:, 500 MB needed", "There is not enough space on the disk", 112},
+    {"Program ended with code 3: settings file missing", "run.cmd: settings.ini not found", 3},
+    {"Program stopped after 30 minutes", "Time limit of 1800 seconds reached", 258},
+};
+constexpr Failure kInstallFailures[] = {
     {"Installer ended with code 1618: another installation is running", "setup.exe: exit code 1618", 1618},
-    {"The till service did not stop within 120 seconds", "Service TillService: timeout", 1053},
-    {"Access to C:\\till\\prices.dat denied", "Access is denied", 5},
+    {"Installer ended with code 1603: till.exe is in use", "setup.exe: exit code 1603", 1603},
+};
+constexpr Failure kServiceFailures[] = {
+    {"The till service did not answer within 120 seconds", "Service TillService: timeout", 1053},
+    {"The till service is not installed", "The specified service does not exist", 1060},
+};
+constexpr Failure kSpaceFailures[] = {
+    {"Disk full: 12 MB free on C:, 500 MB needed", "There is not enough space on the disk", 112},
+};
+constexpr Failure kCheckFailures[] = {
     {"Checksum of prices.dat differs, file refused", "CRC error", 23},
+    {"prices.dat is empty, file refused", "Size 0, at least 1 expected", 13},
+};
+constexpr Failure kImportFailures[] = {
+    {"Access to C:\\till\\prices.dat denied", "Access is denied", 5},
+    {"Line 2117 of prices.dat holds no price, file refused", "import.exe: line 2117: number expected", 8},
+};
+constexpr Failure kQueryFailures[] = {
+    {"The base is locked by another program", "Lock request timed out", 1222},
+    {"The base refused the login", "Login failed for user 'night'", 18456},
+};
+constexpr Failure kCopyFailures[] = {
+    {"Disk full: 3 MB free on D:", "There is not enough space on the disk", 112},
+    {"Access to D:\\out denied", "Access is denied", 5},
+};
+constexpr Failure kConnectionFailures[] = {
+    {"No answer after 3 attempts", "Connection timed out", 60},
+    {"Router refused the call: line busy", "Line busy", 61},
 };
 constexpr Failure kTransferFailures[] = {
-    {"No answer after 3 attempts", "Connection timed out", 60},
     {"Connection lost at 87 % of the file", "Connection reset by peer", 54},
-    {"Router refused the call: line busy", "Line busy", 61},
-    {"File not found on the station: sales.zip", "No such file", 2},
+    {"The file to be transferred was not found", "No such file", 2},
 };
 constexpr Failure kMailFailures[] = {
     {"Mail server did not accept the message", "550 mailbox unavailable", 550},
     {"Mail server not reached", "Host not found", 11001},
+};
+
+struct Failures {
+  Risk risk;
+  std::span<const Failure> failures;
+};
+constexpr Failures kFailures[] = {
+    {Risk::kProgram, kProgramFailures},   {Risk::kInstall, kInstallFailures}, {Risk::kService, kServiceFailures},
+    {Risk::kSpace, kSpaceFailures},       {Risk::kCheck, kCheckFailures},     {Risk::kImport, kImportFailures},
+    {Risk::kQuery, kQueryFailures},       {Risk::kCopy, kCopyFailures},       {Risk::kConnection, kConnectionFailures},
+    {Risk::kTransfer, kTransferFailures}, {Risk::kMail, kMailFailures},
 };
 
 constexpr std::string_view kSuccess[] = {"",
@@ -127,16 +164,8 @@ std::span<const std::string_view> OddStationNames() {
   return kOddStations;
 }
 
-std::span<const Failure> FailuresOf(Medium medium) {
-  switch (medium) {
-    case Medium::kProgram:
-      return kProgramFailures;
-    case Medium::kTransfer:
-      return kTransferFailures;
-    case Medium::kMail:
-      break;
-  }
-  return kMailFailures;
+std::span<const Failure> FailuresOf(Risk risk) {
+  return std::ranges::find(kFailures, risk, &Failures::risk)->failures;
 }
 
 std::span<const std::string_view> SuccessReports() {

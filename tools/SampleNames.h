@@ -37,8 +37,8 @@ struct Failure {
   std::int32_t code = 0;           // and its result
 };
 
-// What goes wrong in steps of that medium.
-std::span<const Failure> FailuresOf(Medium medium);
+// What goes wrong in steps that run that risk; one at least.
+std::span<const Failure> FailuresOf(Risk risk);
 
 // Texts of a station that did what it should. "#" stands for a number.
 std::span<const std::string_view> SuccessReports();

@@ -122,7 +122,7 @@ class RunTeller {
     part.start = run_.start;
     const bool alone = run_.stationCount == 0;
     const Second length = alone ? WorkSeconds() : kServerTaskSeconds * static_cast<Second>(serverTasks_.size());
-    const bool fails = quality_.serverFails && !serverTasks_.empty();
+    const bool fails = (quality_.serverFails && !serverTasks_.empty()) || run_.kind == RunKind::kServerFailed;
     EndAt(part, part.start + length, fails ? PartState::kNotOk : PartState::kOk);
     return part;
   }
@@ -132,7 +132,8 @@ class RunTeller {
     part.station = station;
     part.start = server.end + random_.Below(process_.windowMinutes * kMinute + 1);
     const Second end = part.start + WorkSeconds();
-    const PartState outcome = server.state == PartState::kNotOk ? PartState::kNotExecuted : Outcome(station);
+    const bool keptFromIt = server.state == PartState::kNotOk;
+    const PartState outcome = keptFromIt ? PartState::kNotExecuted : Outcome(station);
     if (server.state == PartState::kInProgress || part.start > plan_.now) {
       SetFlags(part, FlagsOf(PartState::kInProgress));
       part.start = 0;
@@ -141,6 +142,7 @@ class RunTeller {
     } else {
       EndAt(part, end, outcome);
     }
+    if (keptFromIt && part.state == PartState::kNotExecuted) part.report = "Not begun: " + server.report;
     return part;
   }
 
@@ -188,6 +190,7 @@ class RunTeller {
       case PartState::kNotExecuted:
         part.start = 0;
         part.end = 0;
+        part.report = "Switched off during the run";
         break;
       case PartState::kInProgress:
       case PartState::kOdd:
@@ -211,12 +214,13 @@ class RunTeller {
   std::size_t FirstTask() const { return stationTasks_.empty() ? 0 : stationTasks_.front(); }
 
   void Stop(StationPart& part) {
-    part.stoppedAtTask = AnyOf(std::span<const std::size_t>(Tasks(part)), random_);
+    const std::span<const std::size_t> tasks = Tasks(part);
+    part.stoppedAtTask = run_.kind == RunKind::kServerFailed ? tasks.front() : AnyOf(tasks, random_);
     const std::span<const StepTemplate> steps = process_.tasks[part.stoppedAtTask]->steps;
     part.stoppedAtStep = static_cast<std::size_t>(random_.Below(static_cast<std::int64_t>(steps.size())));
     // It is always a command that fails.
     if (steps[part.stoppedAtStep].commands.empty()) part.stoppedAtStep = 0;
-    part.failure = &AnyOf(FailuresOf(steps[part.stoppedAtStep].medium), random_);
+    part.failure = &AnyOf(FailuresOf(steps[part.stoppedAtStep].risk), random_);
   }
 
   void TellRareCases(RunParts& parts) {

@@ -33,6 +33,8 @@ constexpr RareRun kRareRuns[] = {
     {RunKind::kEveryWaitState, nullptr, 210 * kMinute, kEverybody},
     {RunKind::kEveryOutcome, ProtocolCheckProcess, 14 * kHour, kStationsForRareCases},
     {RunKind::kEveryTaskType, SiteAuditProcess, 3 * kHour, 6},
+    {RunKind::kServerFailed, SiteAuditProcess, 20 * kHour, 6},
+    {RunKind::kServerAtWork, SiteAuditProcess, 2 * kMinute, 4},
     {RunKind::kEveryText, OddNamesProcess, 13 * kHour, kStationsForRareCases},
     {RunKind::kNoPopulation, StatisticsProcess, 9 * kHour, 0},
     {RunKind::kNoStations, StatisticsProcess, 11 * kHour, 0},

@@ -28,6 +28,8 @@ enum class RunKind {
   kEveryWaitState,
   kEveryOutcome,
   kEveryTaskType,
+  kServerFailed,  // a task that runs once for all stations failed, and kept the others from running
+  kServerAtWork,  // those tasks are still running
   kEveryText,
   kNoPopulation,
   kNoStations,

@@ -33,8 +33,8 @@ constexpr CommandTemplate kCheckSize[] = {{R"(CHECK C:\in SIZE CRC)", kRunProgra
 constexpr CommandTemplate kStopService[] = {{"net stop TillService", kRunProgram}};
 constexpr CommandTemplate kStartService[] = {{"net start TillService", kRunProgram}};
 constexpr CommandTemplate kFreeSpace[] = {{"freespace C: 500 MB", kRunProgram}};
-constexpr CommandTemplate kInstall[] = {{R"(C:\in\setup.exe /quiet /log C:\log\setup.log)", kRunProgram},
-                                        {R"(reg import C:\in\till.reg)", kRunProgram}};
+constexpr CommandTemplate kInstall[] = {{R"(reg import C:\in\till.reg)", kRunProgram},
+                                        {R"(C:\in\setup.exe /quiet /log C:\log\setup.log)", kRunProgram}};
 constexpr CommandTemplate kImport[] = {{R"(C:\till\import.exe C:\in\prices.dat)", kRunProgram}};
 constexpr CommandTemplate kSelect[] = {{"SELECT article, price FROM tariff WHERE valid_from = :today", kQuery}};
 constexpr CommandTemplate kMerge[] = {{"MERGE INTO sales USING day_sales", kQuery}};
@@ -45,30 +45,30 @@ constexpr CommandTemplate kSendMail[] = {{"MAIL TO operations SUBJECT \"Night re
 constexpr CommandTemplate kProgram[] = {{R"(C:\tools\run.cmd {station})", kRunProgram}};
 
 constexpr StepTemplate kTransferSteps[] = {
-    {"Connect to station", "3 attempts", kConnection, kCommunication, Medium::kTransfer, kCallStation},
-    {"Send files", R"(D:\out -> C:\in)", kConnection, kCommunication, Medium::kTransfer, kSendFiles},
-    {"Check received files", "size, checksum", kStation, kPlain, Medium::kProgram, kCheckSize}};
+    {"Connect to station", "3 attempts", kConnection, kCommunication, Risk::kConnection, kCallStation},
+    {"Send files", R"(D:\out -> C:\in)", kConnection, kCommunication, Risk::kTransfer, kSendFiles},
+    {"Check received files", "size, checksum", kStation, kPlain, Risk::kCheck, kCheckSize}};
 constexpr StepTemplate kCollectSteps[] = {
-    {"Connect to station", "3 attempts", kConnection, kCommunication, Medium::kTransfer, kCallStation},
-    {"Receive files", "C:\\out -> D:\\in", kConnection, kCommunication, Medium::kTransfer, kReceiveFiles}};
+    {"Connect to station", "3 attempts", kConnection, kCommunication, Risk::kConnection, kCallStation},
+    {"Receive files", "C:\\out -> D:\\in", kConnection, kCommunication, Risk::kTransfer, kReceiveFiles}};
 constexpr StepTemplate kInstallSteps[] = {
-    {"Check free space", "500 MB on C:", kStation, kPlain, Medium::kProgram, kFreeSpace},
-    {"Stop tills", "", kStation, kPlain, Medium::kProgram, kStopService},
-    {"Run installer", "quiet, keeps settings", kStation, kPlain, Medium::kProgram, kInstall},
-    {"Start tills", "", kStation, kPlain, Medium::kProgram, kStartService}};
-constexpr StepTemplate kLoadSteps[] = {{"Load file", "C:\\in\\prices.dat", kStation, kPlain, Medium::kProgram, kImport},
-                                       {"Restart service", "", kStation, kPlain, Medium::kProgram, kStartService}};
-constexpr StepTemplate kQuerySteps[] = {{"Select records", "of today", kServer, kPlain, Medium::kProgram, kSelect},
-                                        {"Write files", "D:\\out", kServer, kPlain, Medium::kProgram, kCopy}};
-constexpr StepTemplate kStationQuerySteps[] = {{"Run query", "till base", kStation, kPlain, Medium::kProgram, kMerge}};
-constexpr StepTemplate kMergeSteps[] = {{"Merge records", "", kServer, kPlain, Medium::kProgram, kMerge}};
-constexpr StepTemplate kFtpGetSteps[] = {{"Fetch file", "ftp, passive", kServer, kFtp, Medium::kTransfer, kFtpGet}};
-constexpr StepTemplate kFtpPutSteps[] = {{"Put file", "ftp, passive", kStation, kFtp, Medium::kTransfer, kFtpPut}};
-constexpr StepTemplate kMailSteps[] = {{"Mail to operations", "", kServer, kMailNotes, Medium::kMail, kSendMail},
-                                       {"Mail to suppliers", "", kServer, kMailExchange, Medium::kMail, kSendMail}};
-constexpr StepTemplate kServerSteps[] = {{"Run program", "D:\\tools", kServer, kPlain, Medium::kProgram, kProgram}};
-constexpr StepTemplate kStationSteps[] = {{"Run program", "C:\\tools", kStation, kPlain, Medium::kProgram, kProgram}};
-constexpr StepTemplate kCopySteps[] = {{"Copy files", "D:\\work -> D:\\out", kServer, kPlain, Medium::kProgram, kCopy}};
+    {"Check free space", "500 MB on C:", kStation, kPlain, Risk::kSpace, kFreeSpace},
+    {"Stop tills", "", kStation, kPlain, Risk::kService, kStopService},
+    {"Run installer", "quiet, keeps settings", kStation, kPlain, Risk::kInstall, kInstall},
+    {"Start tills", "", kStation, kPlain, Risk::kService, kStartService}};
+constexpr StepTemplate kLoadSteps[] = {{"Load file", "C:\\in\\prices.dat", kStation, kPlain, Risk::kImport, kImport},
+                                       {"Restart service", "", kStation, kPlain, Risk::kService, kStartService}};
+constexpr StepTemplate kQuerySteps[] = {{"Select records", "of today", kServer, kPlain, Risk::kQuery, kSelect},
+                                        {"Write files", "D:\\out", kServer, kPlain, Risk::kCopy, kCopy}};
+constexpr StepTemplate kStationQuerySteps[] = {{"Run query", "till base", kStation, kPlain, Risk::kQuery, kMerge}};
+constexpr StepTemplate kMergeSteps[] = {{"Merge records", "", kServer, kPlain, Risk::kQuery, kMerge}};
+constexpr StepTemplate kFtpGetSteps[] = {{"Fetch file", "ftp, passive", kServer, kFtp, Risk::kTransfer, kFtpGet}};
+constexpr StepTemplate kFtpPutSteps[] = {{"Put file", "ftp, passive", kStation, kFtp, Risk::kTransfer, kFtpPut}};
+constexpr StepTemplate kMailSteps[] = {{"Mail to operations", "", kServer, kMailNotes, Risk::kMail, kSendMail},
+                                       {"Mail to suppliers", "", kServer, kMailExchange, Risk::kMail, kSendMail}};
+constexpr StepTemplate kServerSteps[] = {{"Run program", "D:\\tools", kServer, kPlain, Risk::kProgram, kProgram}};
+constexpr StepTemplate kStationSteps[] = {{"Run program", "C:\\tools", kStation, kPlain, Risk::kProgram, kProgram}};
+constexpr StepTemplate kCopySteps[] = {{"Copy files", "D:\\work -> D:\\out", kServer, kPlain, Risk::kCopy, kCopy}};
 
 // A task of each type.
 constexpr TaskTemplate kControlServer = {1, "Check server", "ControlServer", false, kServerSteps};
@@ -161,13 +161,13 @@ constexpr CommandTemplate kTransferResults[] = {
     {"SEND result 93", 89, 93},    {"SEND result 94", 89, 94},    {"RECEIVE result 91", 90, 91},
     {"RECEIVE result 92", 90, 92}, {"RECEIVE result 93", 90, 93}, {"RECEIVE result 94", 90, 94},
     {"SEND result 95", 89, 95},    {"SEND result 0", 89, 0},      {"RUN result 91", 11, 91}};
-constexpr StepTemplate kStepsOfEachKind[] = {{"Step kind 0", "", kStation, 0, Medium::kProgram, kProgram},
-                                             {"Step kind 1", "", kConnection, 1, Medium::kTransfer, kTransferResults},
-                                             {"Step kind 2", "", kServer, 2, Medium::kTransfer, kFtpGet},
-                                             {"Step kind 3", "", kServer, 3, Medium::kMail, kSendMail},
-                                             {"Step kind 4", "", kServer, 4, Medium::kMail, kSendMail},
-                                             {"Step kind 5", "", "Satellite", 5, Medium::kProgram, kProgram},
-                                             {"Step kind -1", "", "", -1, Medium::kProgram, {}}};
+constexpr StepTemplate kStepsOfEachKind[] = {{"Step kind 0", "", kStation, 0, Risk::kProgram, kProgram},
+                                             {"Step kind 1", "", kConnection, 1, Risk::kTransfer, kTransferResults},
+                                             {"Step kind 2", "", kServer, 2, Risk::kTransfer, kFtpGet},
+                                             {"Step kind 3", "", kServer, 3, Risk::kMail, kSendMail},
+                                             {"Step kind 4", "", kServer, 4, Risk::kMail, kSendMail},
+                                             {"Step kind 5", "", "Satellite", 5, Risk::kProgram, kProgram},
+                                             {"Step kind -1", "", "", -1, Risk::kProgram, {}}};
 constexpr TaskTemplate kProtocolStation = {31, "Every step kind", "ControlStation", true, kStepsOfEachKind};
 constexpr TaskTemplate kProtocolServer = {32, "Every step kind, once", "ControlServer", false, kStepsOfEachKind};
 constexpr const TaskTemplate* kProtocolTasks[] = {&kProtocolServer, &kProtocolStation};
@@ -175,8 +175,8 @@ constexpr ProcessTemplate kProtocol = {"Protocol check", Place::kBoth, Populatio
 
 constexpr CommandTemplate kOddCommands[] = {{"echo \"a|b\" →\t'c'\r\nexit", kRunProgram}, {"", kRunProgram}};
 constexpr StepTemplate kOddSteps[] = {
-    {"Étape | 1", "key=\"a|b\"\tpath='C:\\temp'", kStation, kPlain, Medium::kProgram, kOddCommands},
-    {"", "line 1\nline 2", kServer, kPlain, Medium::kProgram, {}}};
+    {"Étape | 1", "key=\"a|b\"\tpath='C:\\temp'", kStation, kPlain, Risk::kProgram, kOddCommands},
+    {"", "line 1\nline 2", kServer, kPlain, Risk::kProgram, {}}};
 constexpr TaskTemplate kOddTask = {33, "Prix \"d'été\" | 値札", "Teledistribution", true, kOddSteps};
 constexpr const TaskTemplate* kOddTasks[] = {&kOddTask};
 constexpr ProcessTemplate kOddNames = {

@@ -13,15 +13,15 @@ struct CommandTemplate {
   std::int32_t code = 0;  // result of a command that goes well
 };
 
-// What can go wrong in a step differs by its medium.
-enum class Medium { kProgram, kTransfer, kMail };
+// What can go wrong in a step differs by what it does.
+enum class Risk { kProgram, kInstall, kService, kSpace, kCheck, kImport, kQuery, kCopy, kConnection, kTransfer, kMail };
 
 struct StepTemplate {
   std::string_view name{};
   std::string_view settings{};
   std::string_view executeWhere{};
   std::int32_t kind = 0;
-  Medium medium = Medium::kProgram;
+  Risk risk = Risk::kProgram;
   std::span<const CommandTemplate> commands{};
 };
 

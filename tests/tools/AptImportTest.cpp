@@ -87,7 +87,8 @@ TEST_F(AptImport, FollowsAnInvocationDownToDpkg) {
 
 TEST_F(AptImport, TellsFailedInterruptedAndRunningOnes) {
   constexpr const char* kHistory =
-      "Start-Date: 2026-11-19  10:00:00\nCommandline: apt upgrade\nUpgrade: a:amd64 (1, 2), b:amd64 (1, 2)\n"
+      "Start-Date: 2026-11-19  10:00:00\nCommandline: apt upgrade\nUpgrade: a:amd64 (1, 2), b:amd64 (1, 2), z:amd64 "
+      "(1, 2)\n"
       "Error: Sub-process /usr/bin/dpkg returned an error code (1)\nEnd-Date: 2026-11-19  10:00:05\n\n"
       "Start-Date: 2026-11-19  11:00:00\nRemove: c:amd64 (3), d:amd64 (4)\nPurge: e:amd64 (5)\n\n"
       "Start-Date: 2026-11-20  11:00:00\nCommandline: apt upgrade\nInstall: f:amd64 (6), g:amd64 (7)\n"
@@ -99,14 +100,18 @@ TEST_F(AptImport, TellsFailedInterruptedAndRunningOnes) {
       "2026-11-19 11:00:03 status config-files e:amd64 5\n"
       "2026-11-20 11:00:01 status installed f:amd64 6\n2026-11-20 11:00:02 status unpacked g:amd64 7\n");
   Import();
-  EXPECT_EQ(Ask(kRuns),
-            "apt upgrade / 2 / Sub-process /usr/bin/dpkg returned an error code (1); 1 of 2 packages failed\n"
-            "unattended (no command line) / 2 / Interrupted: no end was logged; 2 of 3 packages failed\n"
-            "apt upgrade / 3 / 4 packages\n");
+  EXPECT_EQ(
+      Ask(kRuns),
+      "apt upgrade / 2 / Sub-process /usr/bin/dpkg returned an error code (1); 1 of 3 packages failed: b:amd64; 1 not "
+      "begun\n"
+      "unattended (no command line) / 2 / Interrupted: no end was logged; 2 of 3 packages failed: d:amd64, "
+      "e:amd64\n"
+      "apt upgrade / 3 / 4 packages\n");
   EXPECT_EQ(Ask("SELECT count(*) FROM process"), "2\n") << "the same command line is the same process";
   EXPECT_EQ(Ask(kSteps),
             "1 Upgrade / a:amd64 / 1 -> 2 / -1 0 0 /  / 1\n"
             "1 Upgrade / b:amd64 / 1 -> 2 / 0 -1 0 / Stopped at: status half-configured b:amd64 2 / 1\n"
+            "1 Upgrade / z:amd64 / 1 -> 2 / 0 0 0 /  / 0\n"
             "2 Remove / c:amd64 / 3 / -1 0 0 /  / 1\n"
             "2 Remove / d:amd64 / 4 / 0 -1 0 / Stopped at: status half-installed d:amd64 4 / 1\n"
             "2 Purge / e:amd64 / 5 / 0 -1 0 / Stopped at: status config-files e:amd64 5 / 1\n"
@@ -116,8 +121,11 @@ TEST_F(AptImport, TellsFailedInterruptedAndRunningOnes) {
             "3 Downgrade / i:amd64 / 9 -> 8 / 0 0 0 /  / 0\n");
   EXPECT_EQ(Ask("SELECT group_concat(not_ok || in_progress || not_executed, ' ') FROM task_run"),
             "-100 -100 -100 0-10 00-1 00-1\n");
-  EXPECT_EQ(Ask("SELECT text FROM command_log WHERE not_ok = -1 AND result <> 0 LIMIT 1"),
-            "status half-configured b:amd64 2\n");
+  EXPECT_EQ(Ask("SELECT text || ' / ' || report FROM command_log WHERE not_ok = -1 AND result <> 0 LIMIT 2"),
+            "status half-configured b:amd64 2 / dpkg did not go on from here: its own script failed or was cut off; "
+            "Sub-process /usr/bin/dpkg returned an error code (1)\n"
+            "status half-installed d:amd64 4 / dpkg did not go on from here: its files were not written or deleted to "
+            "the end; Interrupted: no end was logged\n");
 }
 
 TEST_F(AptImport, ReadsOlderAndCompressedLogsOldestFirst) {
@@ -134,7 +142,8 @@ TEST_F(AptImport, ReadsOlderAndCompressedLogsOldestFirst) {
   Import();
   // Where dpkg's log does not reach back, apt's word counts.
   EXPECT_EQ(Ask(kRuns),
-            "of 2026-01-01 / 1 / 1 package\nof 2026-09-01 / 1 / 1 package\nof 2026-10-01 / 2 / 1 of 1 package failed\n"
+            "of 2026-01-01 / 1 / 1 package\nof 2026-09-01 / 1 / 1 package\nof 2026-10-01 / 2 / 1 of 1 package failed: "
+            "x:amd64\n"
             "of 2026-11-01 / 1 / 1 package\n");
 }
 
