@@ -35,18 +35,32 @@ QColor Blend(const QColor& under, const QColor& over, qreal share) {
   return {mix(under.red(), over.red()), mix(under.green(), over.green()), mix(under.blue(), over.blue())};
 }
 
-bool BreaksLine(QChar c) {
-  return c < QChar(u' ') || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+bool EndsLine(QChar c) {
+  return c == QChar::LineFeed || c == QChar::CarriageReturn || c == QChar::LineSeparator ||
+         c == QChar::ParagraphSeparator;
+}
+
+bool IsControl(QChar c) {
+  return c < QChar::Space;
+}
+
+QVariant PaintedText(const QModelIndex& index) {
+  QVariant text = index.data(kPaintedTextRole);
+  return text.isValid() ? text : index.data(Qt::DisplayRole);
 }
 
 }  // namespace
 
 QString ItemDelegate::displayText(const QVariant& value, const QLocale& /*locale*/) const {
   return GuardedOr(QString(), [&] {
-    QString text = value.toString();
-    if (text.size() > kMostShown) text = text.left(kMostShown) + QChar(u'…');
-    std::replace_if(text.begin(), text.end(), BreaksLine, QChar(u' '));
-    return text;
+    const QString text = value.toString();
+    const auto first = std::find_if_not(text.begin(), text.end(), EndsLine);
+    const auto last = std::find_if(first, text.end(), EndsLine);
+    const bool moreFollows = !std::all_of(last, text.end(), [](QChar c) { return c.isSpace(); });
+    QString line(first, std::min<qsizetype>(last - first, kMostShown));
+    std::replace_if(line.begin(), line.end(), IsControl, QChar::Space);
+    if (moreFollows || line.size() < last - first) line.append(QChar(u'…'));
+    return line;
   });
 }
 
@@ -80,7 +94,8 @@ bool ItemDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
   return GuardedOr(false, [&] {
     if (event->type() != QEvent::ToolTip || !index.isValid()) return false;
     const QString text = index.data(Qt::DisplayRole).toString();
-    const bool cutOff = sizeHint(option, index).width() > option.rect.width();
+    const bool cutOff =
+        displayText(text, option.locale) != text || sizeHint(option, index).width() > option.rect.width();
     // Rich text would be drawn as such: data is shown as it stands.
     const QString toolTip = cutOff ? text.left(kMostInToolTip).toHtmlEscaped() : QString();
     QToolTip::showText(event->globalPos(), toolTip.isEmpty() ? toolTip : "<p style='white-space:pre-wrap'>" + toolTip,
@@ -91,7 +106,26 @@ bool ItemDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
 
 void ItemDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   Guarded([&] {
-    QStyledItemDelegate::initStyleOption(option, index);
+    // What QStyledItemDelegate would do as well, but for a text that is not asked for as a whole.
+    option->index = index;
+    option->styleObject = nullptr;  // nothing in a cell moves
+    if (const QVariant font = index.data(Qt::FontRole); font.isValid()) {
+      option->font = font.value<QFont>().resolve(option->font);
+      option->fontMetrics = QFontMetrics(option->font);
+    }
+    if (const QVariant alignment = index.data(Qt::TextAlignmentRole); alignment.isValid()) {
+      option->displayAlignment = alignment.value<Qt::Alignment>();
+    }
+    if (const QVariant colour = index.data(Qt::ForegroundRole); colour.isValid()) {
+      option->palette.setBrush(QPalette::Text, colour.value<QBrush>());
+    }
+    if (const QVariant icon = index.data(Qt::DecorationRole); icon.isValid()) {
+      option->features |= QStyleOptionViewItem::HasDecoration;
+      option->icon = icon.value<QIcon>();
+    }
+    option->features |= QStyleOptionViewItem::HasDisplay;
+    option->text = displayText(PaintedText(index), option->locale);
+
     option->state &= ~QStyle::State_HasFocus;  // the selection says where one is; a frame a cell says it twice
     const bool quiet = option->state.testFlag(QStyle::State_Selected) && !option->state.testFlag(QStyle::State_Active);
     if (quiet && !option->icon.isNull()) option->icon = QIcon(new ActiveEngine(option->icon));

@@ -2,15 +2,22 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <cstddef>
 
 namespace quorvel::qt {
+
+// The role under which a model gives as much of a text as is ever painted, where the whole may be large; other models
+// answer with nothing, and Qt::DisplayRole is painted.
+inline constexpr int kPaintedTextRole = Qt::UserRole;
+// That much.
+inline constexpr std::size_t kPaintedBytes = 4000;
 
 class ItemDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  // Line ends and tabs become blanks, and what no column is wide enough for is left out: a cell may hold a report of a
-  // megabyte, whose width nobody should wait for.
+  // The first line that is not blank, tabs as blanks, with an ellipsis where more follows. What no column is wide
+  // enough for is left out: a cell may hold a report of a megabyte, whose width nobody should wait for.
   QString displayText(const QVariant& value, const QLocale& locale) const override;
 
   // The height of a line of text or of an icon, whichever is more, with air around it.

@@ -2,6 +2,7 @@
 
 #include "qt/Convert.h"
 #include "qt/Guard.h"
+#include "qt/ItemDelegate.h"
 #include "qt/ItemLook.h"
 
 namespace quorvel::qt {
@@ -50,10 +51,11 @@ int ListModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(columns_);
 }
 
-QString ListModel::Cell(std::size_t row, std::size_t column) const {
+std::string_view ListModel::Cell(std::size_t row, std::size_t column) const {
+  if (const auto text = list_.TextOf(row, column)) return *text;
   cell_.clear();
   list_.AppendCell(row, column, cell_);
-  return ToQt(cell_);
+  return cell_;
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
@@ -63,7 +65,9 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     const auto column = static_cast<std::size_t>(index.column());
     switch (role) {
       case Qt::DisplayRole:
-        return Cell(row, column);
+        return ToQt(Cell(row, column));
+      case kPaintedTextRole:
+        return ToQt(Cell(row, column).substr(0, kPaintedBytes));
       case Qt::DecorationRole:
         return column == 0 ? QVariant(icons_.Of(list_.Icon(row))) : QVariant();
       case Qt::TextAlignmentRole:

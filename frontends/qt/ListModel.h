@@ -3,6 +3,8 @@
 
 #include <QAbstractTableModel>
 #include <cstddef>
+#include <string>
+#include <string_view>
 
 #include "qt/GlyphIcon.h"
 #include "widgets/ListView.h"
@@ -25,7 +27,8 @@ class ListModel final : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  QString Cell(std::size_t row, std::size_t column) const;
+  // Valid until the next call.
+  std::string_view Cell(std::size_t row, std::size_t column) const;
 
   const widgets::ListView& list_;
   std::size_t columns_ = 0;  // that Qt has heard of

@@ -2,35 +2,36 @@
 
 #include <QEvent>
 #include <QHeaderView>
-#include <QProxyStyle>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "qt/Convert.h"
 #include "qt/Guard.h"
 #include "qt/ItemDelegate.h"
+#include "qt/ListStyle.h"
 
 namespace quorvel::qt {
 namespace {
 
-// Headers with the air that the rows below them have.
-class RoomyHeader final : public QProxyStyle {
- public:
-  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-    constexpr int kMargin = 5;
-    return metric == PM_HeaderMargin ? kMargin : QProxyStyle::pixelMetric(metric, option, widget);
-  }
-};
+// Calls a handler that may be missing.
+template <class Handler, class... Values>
+void Tell(const Handler& handler, Values... values) {
+  if (handler) handler(values...);
+}
 
 }  // namespace
 
 using widgets::RowRange;
 using widgets::RowRanges;
 
-ListPane::ListPane(widgets::ListView& list, QWidget* parent) : QTableView(parent), list_(list), model_(list) {
+ListPane::ListPane(widgets::ListView& list, ListGestures gestures, QWidget* parent)
+    : QTableView(parent), list_(list), gestures_(std::move(gestures)), model_(list) {
   setItemDelegate(new ItemDelegate(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
@@ -45,15 +46,18 @@ ListPane::ListPane(widgets::ListView& list, QWidget* parent) : QTableView(parent
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setMinimumSectionSize(24);
-  auto* const roomy = new RoomyHeader;
-  roomy->setParent(horizontalHeader());
-  horizontalHeader()->setStyle(roomy);
+  auto* const style = new ListStyle;
+  style->setParent(this);
+  setStyle(style);
+  horizontalHeader()->setStyle(style);
   FitRowHeight();
   setModel(&model_);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int width) {
     if (following_) return;
     Guarded([&] { list_.SetHeaderWidth(static_cast<std::size_t>(column), ToTwips(width)); });
   });
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+          [this](int column) { Guarded([&] { Tell(gestures_.columnClick, static_cast<std::size_t>(column) + 1); }); });
   list_.ObserveList(this);
   ListPane::ListReset();
 }
@@ -87,6 +91,19 @@ void ListPane::HeadersChanged() {
   });
 }
 
+void ListPane::RowsReordered() {
+  Guarded([&] {
+    const QScopedValueRollback following(following_, true);
+    // A selected row that the user sees stays in sight; else the list stays where it was scrolled to.
+    setAutoScroll(IsCurrentInSight());
+    // Emptied first: Qt would compare each range of the selection before with each one now.
+    selectionModel()->reset();
+    model_.RowsChanged({0, list_.Count()});
+    FollowSelection();
+    setAutoScroll(true);
+  });
+}
+
 void ListPane::RowsChanged(RowRange rows) {
   Guarded([&] { model_.RowsChanged(rows); });
 }
@@ -116,8 +133,17 @@ void ListPane::FollowSelection() {
   }
   selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
   const auto item = list_.SelectedItem();
+  // The first cell stands for its row: going to the row does not mean going to its beginning.
+  const int scrolledTo = horizontalScrollBar()->value();
   selectionModel()->setCurrentIndex(item ? model_.index(static_cast<int>(*item), 0) : QModelIndex(),
                                     QItemSelectionModel::NoUpdate);
+  horizontalScrollBar()->setValue(scrolledTo);
+}
+
+bool ListPane::IsCurrentInSight() const {
+  if (!currentIndex().isValid()) return false;
+  const int top = rowViewportPosition(currentIndex().row());
+  return top >= 0 && top + rowHeight(currentIndex().row()) <= viewport()->height();
 }
 
 void ListPane::WriteSelection() {
@@ -175,6 +201,46 @@ void ListPane::changeEvent(QEvent* event) {
   Guarded([&] {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitRowHeight();
+  });
+}
+
+void ListPane::mousePressEvent(QMouseEvent* event) {
+  Guarded([&] {
+    doubleClicked_ = false;
+    QTableView::mousePressEvent(event);
+  });
+}
+
+void ListPane::mouseMoveEvent(QMouseEvent* event) {
+  Guarded([&] {
+    if (!doubleClicked_) QTableView::mouseMoveEvent(event);
+  });
+}
+
+void ListPane::mouseReleaseEvent(QMouseEvent* event) {
+  Guarded([&] {
+    if (!std::exchange(doubleClicked_, false)) QTableView::mouseReleaseEvent(event);
+  });
+}
+
+void ListPane::mouseDoubleClickEvent(QMouseEvent* event) {
+  Guarded([&] {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !index.isValid()) return QTableView::mouseDoubleClickEvent(event);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    doubleClicked_ = true;
+    Tell(gestures_.doubleClick);
+  });
+}
+
+void ListPane::keyPressEvent(QKeyEvent* event) {
+  Guarded([&] {
+    constexpr std::int32_t kEnter = 13;
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool alone = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!enter || !alone) return QTableView::keyPressEvent(event);
+    event->accept();
+    Tell(gestures_.keyDown, kEnter);
   });
 }
 

@@ -191,7 +191,11 @@ void ProcessLogWidget::MakePanes() {
                         .click = [this](widgets::NodeId node) { control_.tvMotherList_NodeClick(node); }},
                        section_);
   Bind(c_.tvMotherList, *tree_);
-  list_ = new ListPane(c_.lvMotherList, section_);
+  list_ = new ListPane(c_.lvMotherList,
+                       {.columnClick = [this](std::size_t column) { control_.lvMotherList_ColumnClick(column); },
+                        .doubleClick = [this] { control_.lvMotherList_DblClick(); },
+                        .keyDown = [this](std::int32_t keyCode) { control_.lvMotherList_KeyDown(keyCode); }},
+                       section_);
   Bind(c_.lvMotherList, *list_);
   setFocusProxy(tree_);
 }

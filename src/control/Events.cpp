@@ -4,6 +4,8 @@
 #include "control/Hourglass.h"
 #include "control/Layout.h"
 #include "control/ucProcessLog.h"
+#include "list/Classification.h"
+#include "util/ListViewSort.h"
 
 namespace quorvel {
 
@@ -22,10 +24,10 @@ void ucProcessLog::UserControl_Resize(Twips width, Twips height) {
 void ucProcessLog::sstProcessLog_Click() {
   Reporting(errors_, "Quorvel: ucProcessLog.sstProcessLog_Click", [&] {
     const Hourglass hourglass(platform_);
-    const std::string caption(controls_.sstProcessLog.currentCaption());
-    const View view = ViewOfTab(f_tlFromType, caption);
+    const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
     // The key needs the tree that is about to go.
-    const std::string place = GetNextContextKeyInLogs(SelectedKey(), caption);
+    const std::string left = SelectedKey();
+    const tree::Place place = tree::EquivalentPlace(left, GetNextContextKeyInLogs(left, NameOf(view)));
     ClearPanes();
     InitStateListByTab();
     ControlsVisible(static_cast<std::int32_t>(StateFilterOf(controls_.cboState.selectedText()).value()));
@@ -36,7 +38,7 @@ void ucProcessLog::sstProcessLog_Click() {
 void ucProcessLog::cmdRefresh_Click() {
   Reporting(errors_, "Quorvel: ucProcessLog.cmdRefresh_Click", [&] {
     const Hourglass hourglass(platform_);
-    const std::string place = SelectedKey();
+    const tree::Place place = SelectedPlace();
     if (f_tlFromType == tlFromType::tlOneProcess) {
       StateFilter state = StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll);
       m_GetLogAll(state);
@@ -88,6 +90,39 @@ void ucProcessLog::tvMotherList_NodeClick(NodeId node) {
     HandleNodeClick(node);
   });
   f_blnClickNode = false;
+}
+
+// Rows are not sorted by columns of these captions.
+void ucProcessLog::lvMotherList_ColumnClick(std::size_t column) {
+  Reporting(errors_, "Quorvel: ucProcessLog.lvMotherList_ColumnClick", [&] {
+    const Hourglass hourglass(platform_);
+    widgets::ListView& list = controls_.lvMotherList;
+    if (column >= 1 && column <= list.headers().size()) {
+      const std::string& caption = list.headers()[column - 1].caption;
+      if (caption == list::kUserOkCaption || caption == list::kNotOkCaption) return;
+    }
+    util::ListViewSortColumn(platform_, list, column);
+  });
+}
+
+void ucProcessLog::lvMotherList_DblClick() {
+  Reporting(errors_, "Quorvel: ucProcessLog.lvMotherList_DblClick", [&] {
+    const Hourglass hourglass(platform_);
+    widgets::TreeView& tree = controls_.tvMotherList;
+    const auto row = controls_.lvMotherList.SelectedItem();
+    if (!row || tree.Selected() == NodeId::kNone) return;
+    const NodeId node = NodeOfRow(tree.Selected(), controls_.lvMotherList.Key(*row));
+    if (node == NodeId::kNone) return;
+    LoadNode(node);
+    OpenWayTo(node);
+    tree.SetExpanded(node, true);
+    HandleNodeClick(node);
+  });
+}
+
+void ucProcessLog::lvMotherList_KeyDown(std::int32_t keyCode) {
+  constexpr std::int32_t kEnter = 13;
+  if (keyCode == kEnter) lvMotherList_DblClick();
 }
 
 void ucProcessLog::imgSplitter_MouseDown() {

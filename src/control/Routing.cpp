@@ -22,7 +22,7 @@ constexpr NodeRoute kRoutes[] = {
     {util::kProcessPrefix, 9, Expand::kNone, Click::kNodeStep},            // step
     {util::kUserPrefix, 2, Expand::kNone, Click::kNodeProcess},            // station
     {util::kUserPrefix, 3, Expand::kExpandProcess, Click::kNodeAllProcess},
-    {util::kUserPrefix, 5, Expand::kExpandUser, Click::kNodeUser},
+    {util::kUserPrefix, 5, Expand::kExpandUser, Click::kNodeUserRun},
     {util::kUserPrefix, 6, Expand::kExpandTask, Click::kNodeTask},
     {util::kUserPrefix, 8, Expand::kNone, Click::kNodeStep},
     {util::kCommunicationPrefix, 2, Expand::kNodeMonthCommunications, Click::kNodeMonthCommunications},  // month
@@ -93,6 +93,19 @@ const NodeRoute& RouteOf(std::string_view key) {
     return util::IsKeyNode(parts, pattern);
   });
   return found == std::end(kRoutes) ? kNoRoute : *found;
+}
+
+std::string_view NameOf(View view) {
+  switch (view) {
+    case View::kProcesses:
+      return "Processes";
+    case View::kUsers:
+      return "Users";
+    case View::kConnections:
+      return "Connections";
+    default:
+      return {};
+  }
 }
 
 View ViewOfTab(tlFromType fromType, std::string_view tabCaption) {

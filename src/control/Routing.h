@@ -34,6 +34,7 @@ enum class ClickRoutine {
   kNodeCurrentProcess,  // while the run is in progress, else kNodeProcess
   kNodeState,
   kNodeUser,
+  kNodeUserRun,  // the same list for a run under its station, which kNodeUser does not serve
   kNodeTask,
   kNodeStep,
   kNodeMonthCommunications,
@@ -60,6 +61,9 @@ const NodeRoute& RouteOf(std::string_view key);
 
 // The views that a tab can build.
 enum class View { kNone, kProcesses, kUsers, kConnections, kSystem, kAlarms, kBackups };
+
+// The name under which a view is known to the navigation context; "" for one that it does not know.
+std::string_view NameOf(View view);
 
 // Which view a tab click builds. Tabs are told by their caption.
 View ViewOfTab(tlFromType fromType, std::string_view tabCaption);

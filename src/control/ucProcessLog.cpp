@@ -33,7 +33,7 @@ std::optional<std::int32_t> NumberWithin(const std::optional<std::string>& text,
 
 std::vector<widgets::Tab> AllTabs() {
   // A tab whose view is not built yet is shown, but cannot be chosen.
-  return {{"Processes", true, true}, {"Users", true, false},  {"Connections", true, false},
+  return {{"Processes", true, true}, {"Users", true, true},   {"Connections", true, false},
           {"System", true, false},   {"Alarms", true, false}, {"Backups", true, false}};
 }
 
@@ -68,6 +68,7 @@ ucProcessLog::~ucProcessLog() {
   commandLog_.reset();
   processLog_.reset();
   labels_.reset();
+  taskRuns_.reset();
 }
 
 void ucProcessLog::p_Connect(std::int32_t value) {
@@ -178,6 +179,15 @@ datasource::ProcessLog& ucProcessLog::ProcessLogSource() {
 datasource::CommandLog& ucProcessLog::CommandLogSource() {
   if (!commandLog_) commandLog_ = datasource::CreateRecordSource<datasource::CommandLog>(factory_, f_strServerName);
   return *commandLog_;
+}
+
+datasource::Quorvel& ucProcessLog::TaskRunSource() {
+  if (!taskRuns_) taskRuns_ = datasource::CreateRecordSource<datasource::Quorvel>(factory_, f_strServerName);
+  return *taskRuns_;
+}
+
+std::unique_ptr<datasource::StepLog> ucProcessLog::CreateStepLog() {
+  return datasource::CreateRecordSource<datasource::StepLog>(factory_, f_strServerName);
 }
 
 }  // namespace quorvel

@@ -15,9 +15,13 @@
 #include "datasource/ErrorsProcess.h"
 #include "datasource/Labels.h"
 #include "datasource/ProcessLog.h"
+#include "datasource/Quorvel.h"
 #include "datasource/RecordSource.h"
+#include "datasource/StepLog.h"
+#include "list/ListParts.h"
 #include "platform/Platform.h"
 #include "tree/NavigationContext.h"
+#include "tree/Place.h"
 #include "widgets/TreeView.h"
 
 namespace quorvel {
@@ -52,6 +56,9 @@ class ucProcessLog {
   tlFromType p_FromType() const { return f_tlFromType; }
   // Decides what a tab builds; nothing is built on assignment.
   void p_FromType(tlFromType value) { f_tlFromType = value; }
+  std::int32_t p_IdAppLog() const { return f_lngIdAppLog; }
+  // The station (tlOneUser) or company (tlOneCompany) that p_FromType names; 0 = all.
+  void p_IdAppLog(std::int32_t value) { f_lngIdAppLog = value; }
   const std::string& p_Key() const { return f_strKey; }
   // The key of the node to select after a build, when it exists then.
   void p_Key(std::string_view value) { f_strKey = value; }
@@ -63,6 +70,9 @@ class ucProcessLog {
   // Builds the tree grouped by process: processes, their runs, the state groups of each run. `refresh`: the same view
   // is built again.
   void m_GetLogByProcess(bool refresh = false);
+  // Builds the tree grouped by station: stations, the processes that ran there, their runs with the station's own
+  // outcome.
+  void m_GetLogByUser(bool refresh = false);
   // Builds the selected tab's own view for one state filter, for p_ProcessId (-1 = all).
   void m_GetLogAll(StateFilter& state);
 
@@ -92,6 +102,12 @@ class ucProcessLog {
   void tvMotherList_Expand(widgets::NodeId node);
   void tvMotherList_Collapse(widgets::NodeId node);
   void tvMotherList_NodeClick(widgets::NodeId node);
+  // `column`: counted from 1.
+  void lvMotherList_ColumnClick(std::size_t column);
+  // Goes to the node that stands for the selected item, loading what is needed, and opens it.
+  void lvMotherList_DblClick();
+  // Enter (13) does what a double click does; other keys are the list's own.
+  void lvMotherList_KeyDown(std::int32_t keyCode);
   void imgSplitter_MouseDown();
   // `x`: the pointer from the left edge of the grip, in twips.
   void imgSplitter_MouseMove(widgets::Twips x);
@@ -113,28 +129,69 @@ class ucProcessLog {
   // Clears the headers when they are not those that begin with this caption; tells whether they must be set.
   bool ClearColumnHeaderLV(std::string_view firstCaption);
 
-  // Views. `wantedKey`: the node to select after the build, when it exists.
-  void BuildView(View view, const std::string& wantedKey);
-  void BuildByProcess(const std::string& wantedKey);
+  // Views. `place`: where to go after the build, as far as that exists then.
+  void BuildView(View view, const tree::Place& place);
+  void BuildByProcess(const tree::Place& place);
+  void BuildByUser(const tree::Place& place);
   // Error 445 for a view that this version does not build.
   void RequireBuilt(View view) const;
-  void BuildProcesses(const OptionsFilter& filter, const std::string& wantedKey);
+  void BuildTree(View view, const OptionsFilter& filter, const tree::Place& place);
   // Empties tree and list, and what tells their numbers.
   void ClearPanes();
   void ReadProcesses(const OptionsFilter& filter);
-  // Key of the selected node, else of the first. While the tree is empty, of the node that the last build wanted: a
+  void ReadUsers(const OptionsFilter& filter);
+  // Asks for the parts of stations in runs that `filter` and the properties leave. True when there is something to
+  // read.
+  bool QueryByUser(const OptionsFilter& filter, std::int32_t processId, std::int32_t userId);
+  // What p_IdAppLog says when p_FromType is `type`, else -1, which does not filter.
+  std::int32_t IdentifierFor(tlFromType type) const;
+
+  // Places. Of the selected node, else of the first; while the tree is empty, where the last build wanted to go: a
   // build that failed does not lose the place.
+  tree::Place SelectedPlace() const;
   std::string SelectedKey() const;
-  void SelectAfterBuild(const std::string& wantedKey);
+  void SelectAfterBuild(const tree::Place& place);
+  // The deepest node on the way to a place that is there or can be loaded; kNone when not even a root is.
+  widgets::NodeId DescendTo(const tree::Place& place);
+  // The node of a station under whichever state group of a run lists it now.
+  widgets::NodeId FindInGroups(widgets::NodeId run, const tree::PlaceStep& station);
+  // Opens what stands above the node, so that it can be seen.
+  void OpenWayTo(widgets::NodeId node);
+  // The node under `node` that stands for the row of that key in its list; kNone when there is none.
+  widgets::NodeId NodeOfRow(widgets::NodeId node, std::string_view rowKey);
+
+  // Expanders: load the children of a node.
   void LoadNode(widgets::NodeId node);
+  // Puts what `append` adds in place of the children and the placeholder.
+  template <class Append>
+  void ReplaceChildren(widgets::NodeId node, Append&& append);
   void ExpandStateGroup(widgets::NodeId node);
+  void tvMotherList_ExpandUser(widgets::NodeId node);
+  void tvMotherList_ExpandTask(widgets::NodeId node);
+  void tvMotherList_ExpandProcess(widgets::NodeId node);
+
+  // Lists: fill lvMotherList for a node.
   void HandleNodeClick(widgets::NodeId node);
+  void FillList(widgets::NodeId node);
+  // Makes the headers these unless they stand already: widths that the user set stay.
+  void PrepareList(const list::Headers& headers);
   void lvMotherList_NodeProcess(widgets::NodeId node);
+  void lvMotherList_NodeAllProcess(widgets::NodeId node);
+  void lvMotherList_NodeCurrentProcess(widgets::NodeId node);
+  void lvMotherList_NodeState(widgets::NodeId node);
+  void lvMotherList_NodeUser(widgets::NodeId node);
+  void lvMotherList_NodeTask(widgets::NodeId node);
+  void lvMotherList_NodeStep(widgets::NodeId node);
+  void ListRunsOfProcess(widgets::NodeId node);
+  void ListRunsOnStation(widgets::NodeId node);
+  void ListTasks(widgets::NodeId node);
   void MajStatusBarInfrmMain();
   std::string ConnectionsContextKey();
 
   datasource::ProcessLog& ProcessLogSource();
   datasource::CommandLog& CommandLogSource();
+  datasource::Quorvel& TaskRunSource();
+  std::unique_ptr<datasource::StepLog> CreateStepLog();
 
   Platform& platform_;
   datasource::RecordSourceFactory& factory_;
@@ -145,10 +202,13 @@ class ucProcessLog {
   bool f_blnClickNode = false;
   std::int32_t f_lngConnect = -1;
   std::int32_t f_lngProcessId = -1;
+  std::int32_t f_lngUserId = 0;
+  std::int32_t f_lngIdAppLog = 0;
   tlFromType f_tlFromType = tlFromType::tlAllOnStation;
   std::string f_strKey;
   std::string f_strServerName;
-  std::string placeToReturnTo_;
+  tree::Place placeToReturnTo_;
+  OptionsFilter shownFilter_;  // what the tree was built with
   bool serverMode_ = true;
   bool labelsRead_ = false;
   bool splitterMoving_ = false;
@@ -161,6 +221,7 @@ class ucProcessLog {
   std::unique_ptr<datasource::CommandLog> commandLog_;
   std::unique_ptr<datasource::ProcessLog> processLog_;
   std::unique_ptr<datasource::Labels> labels_;
+  std::unique_ptr<datasource::Quorvel> taskRuns_;
 };
 
 }  // namespace quorvel

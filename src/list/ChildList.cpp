@@ -1,5 +1,6 @@
 #include "list/ChildList.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,9 @@ class NodeRows : public widgets::RowSource {
   void AppendKey(std::size_t row, std::string& out) const override { out.append(texts_.View(rows_[row].key)); }
   void AppendCell(std::size_t row, std::size_t /*column*/, std::string& out) const override {
     out.append(texts_.View(rows_[row].text));
+  }
+  std::optional<std::string_view> TextOf(std::size_t row, std::size_t /*column*/) const override {
+    return texts_.View(rows_[row].text);
   }
   std::string_view Icon(std::size_t row) const override { return texts_.View(rows_[row].icon); }
 

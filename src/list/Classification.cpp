@@ -47,7 +47,21 @@ constexpr TaskIcon kTaskIcons[] = {
     {"FileManagementServer", "FileManagementServer"},
     {"FileManagementStation", "FileManagementStation"},
 };
-constexpr TaskIcon kOtherTask{"", "ProgramServer"};
+// Any other type shows, and waits, as a program on the server does.
+constexpr const TaskIcon& kOtherTask = *std::ranges::find(kTaskIcons, "BatchServer", &TaskIcon::taskType);
+
+// The keys of one task type: executed or not (+1), for the station or once for all (+2).
+using TaskKeys = std::array<std::string, 4>;
+
+// Made once, so that a row's key costs no text of its own.
+std::array<TaskKeys, std::size(kTaskIcons)> AllTaskKeys() {
+  std::array<TaskKeys, std::size(kTaskIcons)> all;
+  std::ranges::transform(kTaskIcons, all.begin(), [](const TaskIcon& icon) {
+    const std::string base(icon.base);
+    return TaskKeys{base, base + "NotExec", base + "Global", base + "NotExecGlobal"};
+  });
+  return all;
+}
 
 constexpr std::string_view kTaskWaitingServer = "TaskWaitingServer";
 
@@ -154,17 +168,20 @@ StateGroup GroupOfUser(const UserFlags& flags) {
   return OutcomeOf(flags).group;
 }
 
-std::string GetLogIconeTask(std::string_view taskType, Flag notExecuted, std::int32_t stationScope, Flag waiting,
-                            bool serverMode) {
+std::string_view ResultCaption(bool inProgress, bool ok, bool notOk) {
+  if (inProgress) return kInProgressCaption;
+  if (ok) return kUserOkCaption;
+  return notOk ? kUserNotOkCaption : std::string_view();
+}
+
+std::string_view GetLogIconeTask(std::string_view taskType, Flag notExecuted, std::int32_t stationScope, Flag waiting,
+                                 bool serverMode) {
+  static const std::array<TaskKeys, std::size(kTaskIcons)> keys = AllTaskKeys();
   const auto* const found = std::ranges::find(kTaskIcons, taskType, &TaskIcon::taskType);
   const TaskIcon& icon = found == std::end(kTaskIcons) ? kOtherTask : *found;
-  if (notExecuted != 0 && waiting != 0 && !serverMode && !icon.runsOnStationAlone) {
-    return std::string(kTaskWaitingServer);
-  }
-  std::string key(icon.base);
-  if (notExecuted != 0) key.append("NotExec");
-  if (stationScope == 0) key.append("Global");
-  return key;
+  if (notExecuted != 0 && waiting != 0 && !serverMode && !icon.runsOnStationAlone) return kTaskWaitingServer;
+  const TaskKeys& variants = keys[static_cast<std::size_t>(&icon - std::begin(kTaskIcons))];
+  return variants[(notExecuted != 0 ? 1U : 0U) + (stationScope == 0 ? 2U : 0U)];
 }
 
 std::string_view GetLogIconeStep(std::int32_t stepKind, std::int32_t stationScope) {

@@ -57,10 +57,15 @@ Classified ClassifyUser(const UserFlags& flags, std::string_view waitState);
 // so that groups add up to the run's total.
 StateGroup GroupOfUser(const UserFlags& flags);
 
+// The caption of a task, step or command: in progress before OK before NOT OK, with the letter case of user rows; empty
+// without any of them.
+std::string_view ResultCaption(bool inProgress, bool ok, bool notOk);
+
 // Icon key of a task row. `stationScope` 0 gives the "Global" variant. On a station (`serverMode` false) a task that
-// was not executed and waits shows that it waits for the server, but for four types that run on the station alone.
-std::string GetLogIconeTask(std::string_view taskType, Flag notExecuted, std::int32_t stationScope, Flag waiting,
-                            bool serverMode);
+// was not executed and waits shows that it waits for the server, but for four types that run on the station alone. The
+// key lives forever.
+std::string_view GetLogIconeTask(std::string_view taskType, Flag notExecuted, std::int32_t stationScope, Flag waiting,
+                                 bool serverMode);
 
 // Icon key of a step row; empty for an unknown kind.
 std::string_view GetLogIconeStep(std::int32_t stepKind, std::int32_t stationScope);

@@ -99,6 +99,13 @@ DateValue DateFromCivil(const CivilTime& civil) {
               std::int64_t{civil.hour} * 3600 + std::int64_t{civil.minute} * 60 + civil.second);
 }
 
+std::optional<std::int64_t> SecondsBetween(DateValue from, DateValue to) {
+  const std::optional<DaySeconds> first = Split(from);
+  const std::optional<DaySeconds> last = Split(to);
+  if (!first || !last) return std::nullopt;
+  return (last->day - first->day) * kSecondsPerDay + last->second - first->second;
+}
+
 DateValue DatePart(DateValue date) {
   const std::optional<DaySeconds> split = Split(date);
   return split ? static_cast<double>(split->day) : 0;

@@ -47,6 +47,10 @@ DateValue AtTimeOf(DateValue day, DateValue time);
 // Error 6 when the result leaves the years 100 to 9999, 5 when `date` itself cannot be shown.
 DateValue AddInterval(DateValue date, DateInterval interval, std::int32_t count);
 
+// The seconds from one date to another, each taken at its nearest second, as it is shown. Empty when either cannot be
+// shown.
+std::optional<std::int64_t> SecondsBetween(DateValue from, DateValue to);
+
 // "2026-11-20" and "2026-11-20 23:05:07": the form used where no regional settings exist. Empty for a date that cannot
 // be shown.
 std::string FormatFixedDate(DateValue date);

@@ -48,6 +48,8 @@ class Platform {
   // the empty text; text that is no date gives nothing.
   virtual std::string FormatDate(DateValue date, DateFormat format) const = 0;
   virtual std::optional<DateValue> ParseDate(std::string_view text) const = 0;
+  // Whether both use the fixed form, which gives a date back at its nearest second: who knows the date needs no text.
+  virtual bool HasFixedDates() const { return false; }
 
   // The current user's folder for temporary files, and the two changes that the error log makes there. Both raise 53
   // when `file` does not exist and 75 when the system refuses.

@@ -14,6 +14,7 @@ class StandardPlatform : public Platform {
   DateValue Now() const override;
   std::string FormatDate(DateValue date, DateFormat format) const override;
   std::optional<DateValue> ParseDate(std::string_view text) const override;
+  bool HasFixedDates() const override { return true; }
   // $TMPDIR where it names a folder, else the system's temporary folder.
   std::filesystem::path TemporaryFolder() const override;
   void DeleteFile(const std::filesystem::path& file) override;

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "datasource/Contract.h"
-#include "list/Classification.h"
+#include "list/StationRecord.h"
 #include "tree/NodeKey.h"
+#include "tree/RunNode.h"
 #include "tree/StateGroups.h"
-#include "util/PublicOstrana.h"
 
 namespace quorvel::tree {
 namespace {
@@ -17,11 +17,6 @@ using widgets::NodeId;
 
 // Station number of a row that stands for a run in which no station took part yet.
 constexpr std::int32_t kNoStation = -1;
-
-list::UserFlags FlagsOf(const datasource::ProcessLogRecords& rows, std::size_t row) {
-  return {rows.bInProgress[row], rows.bResultOk[row], rows.bResultNotOk[row], rows.bResultUnknown[row],
-          rows.bExecuted[row]};
-}
 
 // Walks the rows and keeps what is open: the process, the run and the counts of its stations.
 class ProcessTreeBuilder {
@@ -45,25 +40,19 @@ class ProcessTreeBuilder {
  private:
   void OpenProcess(std::size_t row) {
     processKey_ = MakeKey(kProcessPrefix, rows_.lngProcessId[row]);
-    const bool onStationsAlone = rows_.bProcessOnStation[row] != 0 && rows_.bProcessOnServer[row] == 0;
-    process_ = tree_.Add(NodeId::kNone, processKey_, rows_.strProcessName[row],
-                         onStationsAlone ? "ProcessStation" : "Process");
+    process_ = tree_.Add(NodeId::kNone, processKey_, rows_.strProcessName[row], ProcessImage(rows_, row));
   }
 
   void OpenRun(std::size_t row) {
-    const std::string run = std::to_string(rows_.lngProcessLogId[row]);
-    runKey_ = MakeKey(processKey_, rows_.bRunOnStation[row] != 0 ? "1" : "0", run);
-    // People know the number without a blank before it.
-    const std::string text =
-        util::strFormatDateTime(platform_, rows_.dtStartDate[row], util::kDateAndTime) + " (Batch No." + run + ")";
-    run_ = tree_.Add(process_, runKey_, text, RunImage({.unknown = 1}));
+    runKey_ = RunKey(processKey_, rows_, row);
+    run_ = tree_.Add(process_, runKey_, RunText(platform_, rows_, row), list::RunImage({.unknown = 1}));
     counts_ = {};
     groupsMet_ = 0;
   }
 
   void CountStation(std::size_t row) {
     if (rows_.lngUserId[row] == kNoStation) return;
-    const StateGroup group = list::GroupOfUser(FlagsOf(rows_, row));
+    const StateGroup group = list::GroupOf(rows_, row);
     if (counts_.Of(group) == 0) groups_[groupsMet_++] = group;
     counts_.Add(group);
   }
@@ -82,7 +71,7 @@ class ProcessTreeBuilder {
                                     StateGroupText(group, counts_.total, counts_.Of(group)), StateGroupImage(group));
       tree_.SetPlaceholder(node, true);
     }
-    const std::string_view image = RunImage(counts_);
+    const std::string_view image = list::RunImage(counts_);
     tree_.SetImages(run_, image, image, image);
   }
 
@@ -117,11 +106,9 @@ void AppendStationNodes(const datasource::ProcessLogRecords& rows, std::int32_t 
   const std::string groupKey(tree.Key(group));
   tree.InBatch([&] {
     for (std::size_t row = 0; row < rowCount; ++row) {
-      const std::int32_t station = rows.lngUserId[row];
-      std::string text(station == 0 ? list::kWithoutPopulation : rows.strUserName[row]);
-      text.append(" (").append(rows.strIdentifier[row]).append(")");
-      tree.Add(group, MakeKey(groupKey, station), text,
-               list::ClassifyUser(FlagsOf(rows, row), rows.strWaitState[row]).icon);
+      const NodeId station = tree.Add(group, MakeKey(groupKey, rows.lngUserId[row]), list::StationText(rows, row),
+                                      list::ClassifyStation(rows, row).icon);
+      tree.SetPlaceholder(station, true);
     }
   });
 }

@@ -16,7 +16,8 @@ namespace quorvel::tree {
 void AppendProcessNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, const Platform& platform,
                         datasource::ErrorsProcess& errors, widgets::TreeView& tree);
 
-// Appends a node for each row of GetProcessLogByTask under the state group `group`. Error 9 as above.
+// Appends a node for each row of GetProcessLogByTask under the state group `group`, with a placeholder for the
+// station's tasks. Error 9 as above.
 void AppendStationNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, widgets::NodeId group,
                         widgets::TreeView& tree);
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <limits>
 
 #include "platform/Error.h"
@@ -15,38 +14,19 @@ using list::StateGroup;
 
 struct GroupLook {
   StateGroup group;
-  std::string_view label;
   std::string_view image;
 };
 
 // In the order in which the groups of a run are labelled.
 constexpr GroupLook kGroups[] = {
-    {StateGroup::kNotExecuted, list::kNotExecutedCaption, "User_NoExecute"},
-    {StateGroup::kInProgress, list::kInProgressCaption, "User_Inprogress"},
-    {StateGroup::kOk, list::kOkCaption, "User_Ok"},
-    {StateGroup::kNotOk, list::kNotOkCaption, "User_NoOk"},
-    {StateGroup::kUnknown, list::kUnknownCaption, "User_Undefined"},
-};
-
-const GroupLook& LookOf(StateGroup group) {
-  return *std::ranges::find(kGroups, group, &GroupLook::group);
-}
-
-struct WaitingImage {
-  std::string_view waitState;
-  std::string_view image;
+    {StateGroup::kNotExecuted, "User_NoExecute"},
+    {StateGroup::kInProgress, "User_Inprogress"},
+    {StateGroup::kOk, "User_Ok"},
+    {StateGroup::kNotOk, "User_NoOk"},
+    {StateGroup::kUnknown, "User_Undefined"},
 };
 
 constexpr std::string_view kWaitingPrerequisite = "Waiting prerequisite";
-constexpr WaitingImage kWaitingImages[] = {
-    {"Waiting com", "ProcessWaitingCom"},
-    {"Waiting station in com", "ProcessWaitingStation"},
-    {"Waiting station out com", "ProcessWaitingStation"},
-    {"Waiting execution in com", "ProcessWaitingExecution"},
-    {"Waiting execution out com", "ProcessWaitingExecution"},
-    {kWaitingPrerequisite, "ProcessWaitingPrerequisite"},
-};
-constexpr std::string_view kStarted = "ProcessStart";
 
 // count x 100 / total as a whole number, halves to the even neighbour.
 std::int64_t Percentage(std::int32_t total, std::int32_t count) {
@@ -80,49 +60,8 @@ void LabelGroups(widgets::TreeView& tree, std::string_view key, const StationCou
 
 }  // namespace
 
-std::int32_t StationCounts::Of(StateGroup group) const {
-  switch (group) {
-    case StateGroup::kOk:
-      return ok;
-    case StateGroup::kNotOk:
-      return notOk;
-    case StateGroup::kInProgress:
-      return inProgress;
-    case StateGroup::kNotExecuted:
-      return notExecuted;
-    case StateGroup::kUnknown:
-      break;
-  }
-  return unknown;
-}
-
-void StationCounts::Add(StateGroup group) {
-  ++total;
-  switch (group) {
-    case StateGroup::kOk:
-      ++ok;
-      break;
-    case StateGroup::kNotOk:
-      ++notOk;
-      break;
-    case StateGroup::kInProgress:
-      ++inProgress;
-      break;
-    case StateGroup::kNotExecuted:
-      ++notExecuted;
-      break;
-    case StateGroup::kUnknown:
-      ++unknown;
-      break;
-  }
-}
-
-std::string_view StateGroupLabel(StateGroup group) {
-  return LookOf(group).label;
-}
-
 std::string_view StateGroupImage(StateGroup group) {
-  return LookOf(group).image;
+  return std::ranges::find(kGroups, group, &GroupLook::group)->image;
 }
 
 std::string strGetNumberAndPurcent(datasource::ErrorsProcess& errors, std::int32_t total, std::int32_t count) {
@@ -142,41 +81,27 @@ std::string StateGroupText(StateGroup group, std::int32_t total, std::int32_t co
   return text.append(std::to_string(percentage)).append("% (").append(std::to_string(count)).append(")");
 }
 
-std::string_view RunImage(const StationCounts& counts) {
-  if (counts.inProgress >= 1) return kStarted;
-  if (counts.notOk >= 1) return "ProcessNONOK";
-  if (counts.unknown > 0) return "ProcessUndefined";
-  return "ProcessOk";
-}
-
 void SetPurcentAndIconToTreeview(datasource::ErrorsProcess& errors, widgets::TreeView& tree, std::string_view key,
                                  const StationCounts& counts, bool updateTexts) {
   datasource::Logging(errors, kSetPurcentLabel, [&] {
     tree.InBatch([&] {
       if (updateTexts) LabelGroups(tree, key, counts);
-      SetImageWhenDifferent(tree, NodeOf(tree, key), RunImage(counts));
+      SetImageWhenDifferent(tree, NodeOf(tree, key), list::RunImage(counts));
     });
   });
 }
 
-std::string_view GetProcessIconName(const StatePresence& present, std::string_view waitState) {
-  if (!present.inProgress) {
-    if (present.ok && !present.notOk) return "ProcessOk";
-    if (present.notOk && !present.ok) return "ProcessNONOK";
-    if (present.unknown) return "ProcessUndefined";
-    if (present.notExecuted || present.notOk || present.ok) return {};
-  }
-  const auto* const found = std::ranges::find(kWaitingImages, waitState, &WaitingImage::waitState);
-  return found == std::end(kWaitingImages) ? kStarted : found->image;
+void SetProcessIcon(widgets::TreeView& tree, widgets::NodeId node, const StatePresence& present,
+                    std::string_view waitState) {
+  const bool known = waitState != kWaitingPrerequisite;
+  const std::string_view image = GetProcessIconName(present, known ? waitState : std::string_view());
+  if (!image.empty()) SetImageWhenDifferent(tree, node, image);
 }
 
 void SetIconToTreeview(datasource::ErrorsProcess& errors, widgets::TreeView& tree, std::string_view key,
                        const StatePresence& present, std::string_view waitState) {
-  datasource::Logging(errors, "Quorvel: ucProcessLog.SetIconToTreeview", [&] {
-    const std::string_view image =
-        GetProcessIconName(present, waitState == kWaitingPrerequisite ? std::string_view() : waitState);
-    if (!image.empty()) SetImageWhenDifferent(tree, NodeOf(tree, key), image);
-  });
+  datasource::Logging(errors, "Quorvel: ucProcessLog.SetIconToTreeview",
+                      [&] { SetProcessIcon(tree, NodeOf(tree, key), present, waitState); });
 }
 
 std::int32_t CountItemsInTreeview(const widgets::TreeView& tree) {

@@ -27,6 +27,9 @@ void ListView::SetHeaderWidth(std::size_t column, Twips width) {
 
 void ListView::SetRows(std::shared_ptr<const RowSource> rows) {
   rows_ = std::move(rows);
+  order_ = {};
+  sorted_ = false;
+  for (ColumnHeader& header : headers_) header.icon.clear();
   overlay_.clear();
   selection_.Clear();
   selectedItem_.reset();
@@ -34,10 +37,39 @@ void ListView::SetRows(std::shared_ptr<const RowSource> rows) {
   Settle();
 }
 
+void ListView::Reorder(std::vector<std::uint32_t> rows) {
+  if (rows.size() != Count()) throw Error(SystemError::kInvalidCall, name() + " has another number of rows");
+  if (std::ranges::is_sorted(rows)) return;
+  MoveSelection(rows);
+  for (std::uint32_t& row : rows) row = static_cast<std::uint32_t>(SourceRow(row));
+  order_ = std::move(rows);
+  pending_.order = true;
+  Settle();
+}
+
+void ListView::MoveSelection(const std::vector<std::uint32_t>& rows) {
+  if (selectedItem_) {
+    selectedItem_ = static_cast<std::size_t>(std::ranges::find(rows, *selectedItem_) - rows.begin());
+  }
+  if (selection_.empty()) return;
+  std::vector<bool> selected(rows.size());
+  for (const RowRange range : selection_.ranges()) {
+    std::fill(selected.begin() + static_cast<std::ptrdiff_t>(range.first),
+              selected.begin() + static_cast<std::ptrdiff_t>(range.last), true);
+  }
+  selection_.Clear();
+  std::size_t first = 0;  // of the selected rows that end before this one
+  for (std::size_t row = 0; row <= rows.size(); ++row) {
+    if (row < rows.size() && selected[rows[row]]) continue;
+    selection_.Add({first, row});
+    first = row + 1;
+  }
+}
+
 std::string ListView::Key(std::size_t row) const {
   RequireRow(row);
   std::string key;
-  rows_->AppendKey(row, key);
+  rows_->AppendKey(SourceRow(row), key);
   return key;
 }
 
@@ -45,29 +77,31 @@ std::string ListView::Cell(std::size_t row, std::size_t column) const {
   RequireRow(row);
   if (column >= headers_.size()) throw Error(SystemError::kIndexOutOfRange, name() + " has no such column");
   std::string cell;
-  rows_->AppendCell(row, column, cell);
+  AppendCell(row, column, cell);
   return cell;
 }
 
 std::string_view ListView::Icon(std::size_t row) const {
   RequireRow(row);
-  const auto found = overlay_.find(row);
+  const std::size_t source = SourceRow(row);
+  const auto found = overlay_.find(source);
   if (found != overlay_.end() && found->second.icon) return *found->second.icon;
-  return rows_->Icon(row);
+  return rows_->Icon(source);
 }
 
 RowLook ListView::Look(std::size_t row) const {
   RequireRow(row);
-  const auto found = overlay_.find(row);
+  const std::size_t source = SourceRow(row);
+  const auto found = overlay_.find(source);
   if (found != overlay_.end() && found->second.look) return *found->second.look;
-  return rows_->Look(row);
+  return rows_->Look(source);
 }
 
 std::optional<std::size_t> ListView::RowOfKey(std::string_view key) const {
   std::string each;
   for (std::size_t row = 0; row < Count(); ++row) {
     each.clear();
-    rows_->AppendKey(row, each);
+    rows_->AppendKey(SourceRow(row), each);
     if (each == key) return row;
   }
   return std::nullopt;
@@ -76,7 +110,7 @@ std::optional<std::size_t> ListView::RowOfKey(std::string_view key) const {
 void ListView::SetIcon(std::size_t row, std::string_view icon) {
   RequireRow(row);
   if (Icon(row) == icon) return;
-  overlay_[row].icon = icon;
+  overlay_[SourceRow(row)].icon = icon;
   NoteRow(row);
   Settle();
 }
@@ -84,7 +118,7 @@ void ListView::SetIcon(std::size_t row, std::string_view icon) {
 void ListView::SetLook(std::size_t row, RowLook look) {
   RequireRow(row);
   if (Look(row) == look) return;
-  overlay_[row].look = look;
+  overlay_[SourceRow(row)].look = look;
   NoteRow(row);
   Settle();
 }
@@ -116,6 +150,10 @@ void ListView::Settle() {
     return;
   }
   if (told.headers) observer_->HeadersChanged();
+  if (told.order) {
+    observer_->RowsReordered();
+    return;
+  }
   if (told.rows) observer_->RowsChanged(*told.rows);
   if (told.selection) observer_->ListSelectionChanged();
 }

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Dates.h"
 #include "widgets/Control.h"
 #include "widgets/RowRanges.h"
 #include "widgets/TreeView.h"
@@ -53,6 +54,17 @@ class RowSource {
   // Key into the image list, "" = none; lives as long as the source.
   virtual std::string_view Icon(std::size_t row) const = 0;
   virtual RowLook Look(std::size_t /*row*/) const { return {}; }
+
+  // What stands behind the text of a cell, for whoever would have to make a million texts to sort by them. Nothing, the
+  // default, is always right and leaves the text to tell.
+  //
+  // The text itself, where it lies as it is shown; lives as long as the source.
+  virtual std::optional<std::string_view> TextOf(std::size_t /*row*/, std::size_t /*column*/) const { return {}; }
+  // The date that the cell shows together with its time of day; an empty cell may have 0 or a date that cannot be
+  // shown.
+  virtual std::optional<DateValue> DateOf(std::size_t /*row*/, std::size_t /*column*/) const { return {}; }
+  // The number that the cell shows in decimal digits; an empty cell has 0.
+  virtual std::optional<std::int32_t> NumberOf(std::size_t /*row*/, std::size_t /*column*/) const { return {}; }
 };
 
 // Draws a list. Hears of a batch of changes once, after all of them were made. Must not change the list from a call,
@@ -63,12 +75,14 @@ class ListObserver {
   // Headers and rows are new, selection included.
   virtual void ListReset() = 0;
   virtual void HeadersChanged() = 0;
+  // The same rows stand in another order; selection, icons and looks went with them.
+  virtual void RowsReordered() = 0;
   // Icon or look of rows within this range changed.
   virtual void RowsChanged(RowRange rows) = 0;
   virtual void ListSelectionChanged() = 0;
 };
 
-// Rows are counted from 0; a row that does not exist is error 9.
+// Rows are counted from 0 as they are shown, whatever their order in the source; a row that does not exist is error 9.
 class ListView : public Control {
  public:
   using Control::Control;
@@ -95,14 +109,32 @@ class ListView : public Control {
   void SetHeaderWidth(std::size_t column, Twips width);
 
   // Shows the rows of `rows` (null = none) in their order; selection, marks and changed icons of the rows before go.
+  // The list's own sorting is off then, and no header has an icon.
   void SetRows(std::shared_ptr<const RowSource> rows);
   std::size_t Count() const { return rows_ ? rows_->Count() : 0; }
+
+  // Shows the rows in another order: for each place the row that stands in `rows` there, every row once. Selection,
+  // marks and changed icons go with their rows. Error 5 for another number of rows.
+  void Reorder(std::vector<std::uint32_t> rows);
 
   std::string Key(std::size_t row) const;
   // Error 9 for a column without a header too.
   std::string Cell(std::size_t row, std::size_t column) const;
   // For many cells: appends to `out` and checks nothing; row and column must exist.
-  void AppendCell(std::size_t row, std::size_t column, std::string& out) const { rows_->AppendCell(row, column, out); }
+  void AppendCell(std::size_t row, std::size_t column, std::string& out) const {
+    rows_->AppendCell(SourceRow(row), column, out);
+  }
+  // What stands behind the text of a cell, where the source tells; they check nothing either. A text is valid until the
+  // list gets other rows.
+  std::optional<std::string_view> TextOf(std::size_t row, std::size_t column) const {
+    return rows_->TextOf(SourceRow(row), column);
+  }
+  std::optional<DateValue> DateOf(std::size_t row, std::size_t column) const {
+    return rows_->DateOf(SourceRow(row), column);
+  }
+  std::optional<std::int32_t> NumberOf(std::size_t row, std::size_t column) const {
+    return rows_->NumberOf(SourceRow(row), column);
+  }
   // Valid until the list changes.
   std::string_view Icon(std::size_t row) const;
   RowLook Look(std::size_t row) const;
@@ -135,18 +167,22 @@ class ListView : public Control {
   struct Pending {
     bool reset = false;
     bool headers = false;
+    bool order = false;
     bool selection = false;
     std::optional<RowRange> rows;
   };
 
   void RequireRow(std::size_t row) const;
+  std::size_t SourceRow(std::size_t row) const { return order_.empty() ? row : order_[row]; }
+  void MoveSelection(const std::vector<std::uint32_t>& rows);
   void NoteRow(std::size_t row);
   // Outside batches: tells what is pending.
   void Settle();
 
   std::vector<ColumnHeader> headers_;
   std::shared_ptr<const RowSource> rows_;
-  std::unordered_map<std::size_t, Overlay> overlay_;
+  std::vector<std::uint32_t> order_;                  // the source's row at each place; empty = as in the source
+  std::unordered_map<std::size_t, Overlay> overlay_;  // by row of the source
   RowRanges selection_;
   std::optional<std::size_t> selectedItem_;
   std::int32_t sortKey_ = 0;

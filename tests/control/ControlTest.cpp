@@ -42,6 +42,41 @@ class ControlTest : public testing::Test {
   ProcessLogControls& controls() { return control.controls(); }
   void ChooseState(std::string_view text) { controls().cboState.Select(*controls().cboState.RowOfText(text)); }
 
+  // One task, which failed in its second step.
+  void FillTasksAndSteps() {
+    const auto numbers = [](std::vector<std::int32_t> values) { return test::MakeColumn(std::move(values)); };
+    const auto flags = [](std::vector<std::int16_t> values) { return test::MakeColumn(std::move(values)); };
+    datasource::TaskRunRecords& tasks = history.tasks;
+    tasks.lngTaskRunId = numbers({61});
+    tasks.lngTaskId = numbers({900});
+    tasks.lngStationScope = numbers({1});
+    tasks.strTaskName = tasks.strTaskType = tasks.strReport = test::MakeTexts({"Telecollecte"});
+    tasks.bNotExecuted = tasks.bWaiting = tasks.bInProgress = tasks.bResultOk = flags({0});
+    tasks.bResultNotOk = flags({-1});
+    tasks.dtStartDate = tasks.dtEndDate = test::MakeColumn<double>({46346.25});
+    history.tasksCount = 1;
+    datasource::StepLogRecords& steps = history.steps;
+    steps.lngStepLogId = numbers({51, 52});
+    steps.lngTaskRunId = numbers({61, 62});
+    steps.lngStepKind = numbers({1, 2});
+    steps.lngStationScope = numbers({1, 1});
+    steps.strStepName = test::MakeTexts({"Connect", "Send"});
+    steps.strSettings = steps.strReport = steps.strExecuteWhere = test::MakeTexts({"", ""});
+    steps.bInProgress = flags({0, 0});
+    steps.bResultOk = flags({-1, 0});
+    steps.bResultNotOk = flags({0, -1});
+    steps.dtStartDate = steps.dtEndDate = test::MakeColumn<double>({46346.25, 46346.25});
+    history.stepsCount = 2;
+  }
+
+  // Station 7 took part in run 345 of process 12.
+  void FillParts() {
+    history.parts = StationRows().Station(12, 345, 7, StationRows::kNotOk).Records();
+    history.parts.strUserName = history.parts.strIdentifier = history.parts.strWaitState = test::MakeTexts({"Lyon"});
+    history.parts.dtEndDate = history.parts.dtStartDate;
+    history.partsCount = 1;
+  }
+
   test::RecordingPlatform platform;
   test::FakeHistory history;
   test::FakeFactory factory{history};
@@ -52,30 +87,106 @@ TEST_F(ControlTest, BuildsTheTreeAndShowsTheFirstNodesChildren) {
   control.m_GetLogByProcess();
   const auto& tree = controls().tvMotherList;
   EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12");
-  EXPECT_EQ(control.p_ListCount(), 1);
-  EXPECT_EQ(controls().lvMotherList.Key(0), "LPROC|12|0|345");
-  EXPECT_EQ(controls().lvMotherList.headers().front().caption, "Processes");
+  EXPECT_EQ(controls().lvMotherList.headers().front().caption, "Batch");
   EXPECT_EQ(controls().fraList.text(), "Processes (2)");
-  EXPECT_EQ(platform.status, "1 element");
+  EXPECT_EQ(platform.status, "0 element");
   EXPECT_EQ(platform.pointers.back(), MousePointer::kDefault);
-  EXPECT_THAT(history.calls,
-              testing::IsSupersetOf(
-                  {"create clRecordHub.Labels on \"\"", "GetLabel UseType", "create clRecordHub.ProcessLog on \"\"",
-                   "GetProcessLogs 2026-11-20 00:00:00 2026-11-21 00:00:00 4 -1", "CloseProcessLogs"}));
+  EXPECT_THAT(history.calls, testing::IsSupersetOf({"create clRecordHub.Labels on \"\"", "GetLabel UseType",
+                                                    "create clRecordHub.ProcessLog on \"\"",
+                                                    "GetProcessLogs 2026-11-20 00:00:00 2026-11-21 00:00:00 4 -1",
+                                                    "CloseProcessLogs", "GetProcessLogByProcess 12"}));
 }
 
 TEST_F(ControlTest, LoadsAGroupOnceAndListsItsStations) {
   control.m_GetLogByProcess();
   control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2"));
   EXPECT_EQ(platform.status, "2 elements");
-  EXPECT_EQ(controls().lvMotherList.Cell(0, 0), "Without population ()");
+  EXPECT_EQ(controls().lvMotherList.Cell(0, 0), "Without population");
   EXPECT_EQ(controls().lvMotherList.Icon(0), "User_WaitingCom");
-  history.calls.clear();
   control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  history.calls.clear();
   control.tvMotherList_Collapse(Node("LPROC|12|0|345|2"));
   control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
   EXPECT_TRUE(history.calls.empty()) << "loaded before";
-  EXPECT_THAT(Tree(), HasSubstr("Lyon 08 (ST-8) [LPROC|12|0|345|2|8] User_NoOk\n"));
+  EXPECT_THAT(Tree(), HasSubstr("Lyon 08 (ST-8) [LPROC|12|0|345|2|8] User_NoOk +\n"));
+}
+
+TEST_F(ControlTest, AsksForTheTasksAndStepsThatAKeyNames) {
+  control.m_GetLogByProcess();
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  FillTasksAndSteps();
+  history.calls.clear();
+  platform.pointers.clear();
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2|8"));
+  constexpr MousePointer kBusy = MousePointer::kHourglass;
+  EXPECT_THAT(platform.pointers, ElementsAre(kBusy, kBusy, kBusy, MousePointer::kDefault))
+      << "the filler ends with the hourglass, the click does not";
+  EXPECT_EQ(controls().lvMotherList.Key(0), "900|LPROC|12|0|345|2|8");
+  control.lvMotherList_DblClick();
+  EXPECT_EQ(controls().tvMotherList.Selected(), Node("LPROC|12|0|345|2|8")) << "nothing is selected in the list";
+  controls().lvMotherList.SetSelection({}, 0);
+  control.lvMotherList_KeyDown(13);
+  EXPECT_EQ(controls().tvMotherList.Selected(), Node("LPROC|12|0|345|2|8|900"));
+  EXPECT_EQ(controls().lvMotherList.Key(1), "52|61|LPROC|12|0|345|2|8|900");
+  EXPECT_TRUE(controls().lvMotherList.Look(1).bold);
+  EXPECT_THAT(Tree(), HasSubstr("Send : NOT OK [LPROC|12|0|345|2|8|900|52|61] StepFTP\n"));
+  EXPECT_THAT(history.calls,
+              ElementsAre("create clRecordHub.Quorvel on \"\"", "GetTaskRunsByProcessLog 345 server 8", "CloseTaskRuns",
+                          "GetTaskRunsByProcessLog 345 server 8", "CloseTaskRuns", "create clRecordHub.StepLog on \"\"",
+                          "GetStepLogByTaskRun 900 345 8", "CloseStepLog", "create clRecordHub.StepLog on \"\"",
+                          "GetStepLogByTaskRun 900 345 8", "CloseStepLog"));
+}
+
+TEST_F(ControlTest, TheUserTreeLoadsRunsByTheFilterThatItWasBuiltWith) {
+  FillParts();
+  FillTasksAndSteps();
+  control.p_FromType(tlFromType::tlOneCompany);
+  control.p_IdAppLog(4);
+  ChooseState("All");
+  control.m_GetLogByUser();
+  const std::string asked = "GetProcessLogByUser 2026-11-20 00:00:00 2026-11-21 00:00:00 0 ";
+  EXPECT_THAT(history.calls, testing::Contains(asked + "-1 -1 4"));
+  ChooseState("In progress");
+  control.tvMotherList_Expand(Node("LUSR|7|12"));
+  control.tvMotherList_NodeClick(Node("LUSR|7|12"));
+  EXPECT_THAT(history.calls, testing::Contains(asked + "12 7 4").Times(2));
+  EXPECT_EQ(controls().lvMotherList.Key(0), "LUSR|7|12|0|345");
+  history.calls.clear();
+  control.tvMotherList_NodeClick(Node("LUSR|7|12|0|345"));
+  EXPECT_THAT(history.calls, testing::Contains("GetTaskRunsByProcessLog 345 server 7"));
+  EXPECT_EQ(controls().lvMotherList.Key(0), "900|LUSR|7|12|0|345");
+}
+
+TEST_F(ControlTest, AListThatCannotBeReadKeepsItsColumnsAndTheNextClickWorks) {
+  control.m_GetLogByProcess();
+  history.failNumber = 5;
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2"));
+  EXPECT_EQ(controls().lvMotherList.headers().front().caption, "Name");
+  EXPECT_EQ(control.p_ListCount(), 0);
+  EXPECT_EQ(platform.messages.size(), 1U);
+  EXPECT_EQ(platform.pointers.back(), MousePointer::kDefault);
+  history.failNumber = 0;
+  controls().lvMotherList.SetHeaderWidth(0, 3333);
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2"));
+  EXPECT_EQ(control.p_ListCount(), 2);
+  EXPECT_EQ(controls().lvMotherList.headers().front().width, 3333) << "headers that stand are not made again";
+  history.stations.strReport = {};
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|1"));
+  EXPECT_THAT(platform.messages.back(), HasSubstr("GetProcessLogByTask: column strReport holds 0 of 2 rows"));
+}
+
+TEST_F(ControlTest, FindsTheStationAgainWhenItsStateChanged) {
+  control.m_GetLogByProcess();
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2|8"));
+  history.processLogs = StationRows().Station(12, 345, 8, StationRows::kOk).Records();
+  history.processLogsCount = 1;
+  history.calls.clear();
+  control.cmdRefresh_Click();
+  const auto& tree = controls().tvMotherList;
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12|0|345|1|8");
+  EXPECT_THAT(history.calls, testing::Contains("GetTaskRunsByProcessLog 345 server 8")) << "one list query";
+  EXPECT_THAT(history.calls, testing::Not(testing::Contains("GetProcessLogByProcess 12")));
 }
 
 TEST_F(ControlTest, AFailedQueryIsShownOnceAndCanBeTriedAgain) {
@@ -128,8 +239,7 @@ TEST_F(ControlTest, ReadsTheDefaultPeriodOfItsRoleOncePerConnection) {
   controls().txtDuring.SetText("3");
   history.calls.clear();
   control.cmdRefresh_Click();
-  EXPECT_THAT(history.calls,
-              ElementsAre("GetProcessLogs 2026-11-20 06:00:00 2026-11-20 09:00:00 0 -1", "CloseProcessLogs"))
+  EXPECT_THAT(history.calls, testing::Contains("GetProcessLogs 2026-11-20 06:00:00 2026-11-20 09:00:00 0 -1"))
       << "what the user set stays";
   history.labels["UseType"] = "";
   control.p_Connect(5);
@@ -161,14 +271,14 @@ TEST_F(ControlTest, BuildsWhatTheTabTableNames) {
   control.tvMotherList_NodeClick(Node("LPROC|12|0|345"));
   control.sstProcessLog_Click();
   const auto& tree = controls().tvMotherList;
-  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12") << "the equivalent of a run's key is a step's, which is not there";
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12|0|345");
   control.p_FromType(tlFromType::tlOneAlarm);
   controls().txtDuring.SetText("");
   control.sstProcessLog_Click();
   EXPECT_EQ(Tree(), "") << "cleared, and nothing is built";
   EXPECT_EQ(controls().fraList.text() + ", " + platform.status, "Processes (0), 0 element");
   EXPECT_TRUE(platform.messages.empty());
-  control.p_FromType(tlFromType::tlOneUser);
+  control.p_FromType(tlFromType::tlAllAlarms);
   control.sstProcessLog_Click();
   ASSERT_EQ(platform.messages.size(), 1U);
   EXPECT_THAT(platform.messages[0], HasSubstr("is not part of this version"));
@@ -221,7 +331,7 @@ TEST_F(ControlTest, AStatusBarThatFailsOnceIsAskedAgain) {
   platform.onStatus = [] { throw Error(SystemError::kOutOfMemory, "Busy"); };
   control.m_GetLogByProcess();
   platform.onStatus = nullptr;
-  control.tvMotherList_NodeClick(Node("LPROC|30"));
+  control.tvMotherList_NodeClick(Node("LPROC|30|1|343"));
   EXPECT_EQ(platform.status, "1 element");
 }
 
@@ -265,9 +375,12 @@ TEST_F(ControlTest, ReleasesItsSourcesInOrder) {
     ucProcessLog other(platform, factory);
     other.m_GetLogByProcess();
     other.GetNextContextKeyInLogs("LPROC|12|0|345|2|8|900|51|52", "Connections");
+    other.tvMotherList_Expand(other.controls().tvMotherList.Find("LPROC|12|0|345|2"));
+    other.tvMotherList_NodeClick(other.controls().tvMotherList.Find("LPROC|12|0|345|2|8"));
     history.calls.clear();
   }
-  EXPECT_THAT(history.calls, ElementsAre("release CommandLog", "release ProcessLog", "release Labels"));
+  EXPECT_THAT(history.calls,
+              ElementsAre("release CommandLog", "release ProcessLog", "release Labels", "release Quorvel"));
 }
 
 TEST_F(ControlTest, StateListsKeepTheChoiceOrTakeItsCounterpart) {

@@ -5,10 +5,15 @@
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
+#include <QProxyStyle>
+#include <QScrollBar>
 #include <QTest>
+#include <algorithm>
 #include <memory>
+#include <numeric>
 #include <random>
 #include <string>
+#include <utility>
 
 #include "PaintCount.h"
 #include "qt/ItemDelegate.h"
@@ -61,13 +66,33 @@ class ListPaneTest : public testing::Test {
     }
     return rows;
   }
+  QPoint PlaceOf(int row) { return pane.visualRect(pane.model()->index(row, 1)).center(); }
   void ClickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::mouseClick(pane.viewport(), Qt::LeftButton, modifiers,
-                      pane.visualRect(pane.model()->index(row, 1)).center());
+    QTest::mouseClick(pane.viewport(), Qt::LeftButton, modifiers, PlaceOf(row));
   }
+  void DragOver(int row) {
+    QMouseEvent move(QEvent::MouseMove, PlaceOf(row), pane.viewport()->mapToGlobal(PlaceOf(row)), Qt::NoButton,
+                     Qt::LeftButton, {});
+    QCoreApplication::sendEvent(pane.viewport(), &move);
+  }
+  void ReverseRows() {
+    std::vector<std::uint32_t> rows(list.Count());
+    std::iota(rows.rbegin(), rows.rend(), 0U);
+    list.Reorder(std::move(rows));
+  }
+  std::string Heard() { return std::exchange(heard, ""); }
 
   widgets::ListView list{"list"};
-  ListPane pane{list};
+  std::string heard;
+  std::function<void()> onDoubleClick;  // what the owner does then
+  ListPane pane{list,
+                {.columnClick = [this](std::size_t column) { heard += "column " + std::to_string(column) + " "; },
+                 .doubleClick =
+                     [this] {
+                       heard += "double " + std::to_string(list.SelectedItem().value()) + " ";
+                       if (onDoubleClick) onDoubleClick();
+                     },
+                 .keyDown = [this](std::int32_t key) { heard += "key " + std::to_string(key) + " "; }}};
 };
 
 TEST_F(ListPaneTest, ShowsAMillionRowsAtOnce) {
@@ -132,11 +157,121 @@ TEST_F(ListPaneTest, KeepsOneSelectionOnBothSides) {
   EXPECT_TRUE(Highlighted().empty());
 }
 
-TEST_F(ListPaneTest, DrawsWhateverACellHolds) {
+TEST_F(ListPaneTest, TellsWhatTheUserAsksFor) {
+  Fill(20);
+  auto& header = *pane.horizontalHeader();
+  const QPoint inSecond(header.sectionViewportPosition(1) + 20, 5);
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, inSecond);
+  EXPECT_EQ(Heard(), "column 2 ");
+  QTest::mouseClick(header.viewport(), Qt::RightButton, {}, inSecond);
+  EXPECT_EQ(Heard(), "");
+  ClickRow(7);
+  QTest::mouseDClick(pane.viewport(), Qt::LeftButton, {}, PlaceOf(3));
+  EXPECT_EQ(Heard(), "double 3 ");
+  EXPECT_EQ(list.Selection().Count(), 1U);
+  QTest::mouseDClick(pane.viewport(), Qt::RightButton, {}, PlaceOf(4));
+  QTest::mouseDClick(pane.viewport(), Qt::LeftButton, {}, {490, 10});
+  EXPECT_EQ(Heard(), "") << "beside the rows";
+  QTest::keyClick(&pane, Qt::Key_Return);
+  QTest::keyClick(&pane, Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(Heard(), "key 13 key 13 ");
+  QTest::keyClick(&pane, Qt::Key_Down);
+  QTest::keyClick(&pane, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(ListPaneTest, ButtonOfADoubleClickSelectsNothingInTheListThatComes) {
+  Fill(20);
+  onDoubleClick = [this] { Fill(5); };
+  QTest::mouseClick(pane.viewport(), Qt::LeftButton, {}, PlaceOf(3));
+  QMouseEvent second(QEvent::MouseButtonDblClick, PlaceOf(3), pane.viewport()->mapToGlobal(PlaceOf(3)), Qt::LeftButton,
+                     Qt::LeftButton, {});
+  QCoreApplication::sendEvent(pane.viewport(), &second);
+  DragOver(2);
+  QTest::mouseRelease(pane.viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  EXPECT_TRUE(list.Selection().empty());
+  ClickRow(4);
+  QTest::mousePress(pane.viewport(), Qt::LeftButton, {}, PlaceOf(0));
+  DragOver(2);
+  QTest::mouseRelease(pane.viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  EXPECT_EQ(list.Selection().Count(), 3U) << "the next press drags as ever";
+}
+
+TEST_F(ListPaneTest, KeepsTheSelectedRowInSightWhenRowsChangePlaces) {
+  const QAbstractItemModelTester tester(pane.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+  Fill(1000, 30);
+  pane.horizontalScrollBar()->setValue(700);
+  RowRanges rows;
+  rows.Add({2, 4});
+  list.SetSelection(rows);
+  test::PaintCount paints(*pane.viewport());
+  paints.Take();
+  ReverseRows();
+  EXPECT_EQ(paints.Take(), 1);
+  EXPECT_EQ(pane.model()->index(0, 0).data().toString(), "999.0");
+  RowRanges moved;
+  moved.Add({996, 998});
+  EXPECT_EQ(Highlighted(), moved);
+  EXPECT_EQ(pane.currentIndex().row(), 997);
+  EXPECT_TRUE(pane.viewport()->rect().contains(0, pane.rowViewportPosition(997)));
+  EXPECT_EQ(pane.horizontalScrollBar()->value(), 700);
+  pane.verticalScrollBar()->setValue(0);
+  ReverseRows();
+  EXPECT_EQ(pane.verticalScrollBar()->value(), 0) << "what was not in sight before draws nobody away";
+}
+
+// Notes how much text the cells are painted with.
+class TextLengths : public QProxyStyle {
+ public:
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* const item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (element == CE_ItemViewItem && item != nullptr) longest = std::max(longest, item->text.size());
+    QProxyStyle::drawControl(element, option, painter, widget);
+  }
+  mutable qsizetype longest = 0;
+};
+
+// A report of a megabyte, which is or is not there to be looked at in its place.
+class LongRows : public CountingRows {
+ public:
+  explicit LongRows(bool lies) : CountingRows(3), lies_(lies) {}
+  void AppendCell(std::size_t /*row*/, std::size_t /*column*/, std::string& out) const override { out += report_; }
+  std::optional<std::string_view> TextOf(std::size_t /*row*/, std::size_t /*column*/) const override {
+    return lies_ ? std::optional<std::string_view>(report_) : std::nullopt;
+  }
+
+ private:
+  bool lies_;
+  std::string report_ = std::string(1'000'000, 'x');
+};
+
+TEST_F(ListPaneTest, PaintsNoMoreOfATextThanACellCanShow) {
+  TextLengths style;
+  pane.setStyle(&style);
+  for (const bool lies : {true, false}) {
+    Fill(0);
+    list.SetRows(std::make_shared<LongRows>(lies));
+    style.longest = 0;
+    pane.grab();
+    EXPECT_GT(style.longest, 100);
+    EXPECT_LT(style.longest, 1100);
+    const QModelIndex cell = pane.model()->index(0, 0);
+    EXPECT_EQ(cell.data().toString().size(), 1'000'000) << "the cell itself is whole";
+    EXPECT_LE(cell.data(kPaintedTextRole).toString().size(), 4000) << "and only so much is converted";
+  }
+  pane.setStyle(nullptr);
+}
+
+TEST_F(ListPaneTest, DrawsTheFirstLineOfACell) {
   const ItemDelegate delegate;
   const auto shown = [&](const QString& text) { return delegate.displayText(text, QLocale()); };
-  EXPECT_EQ(shown("one\r\ntwo\tthree"), "one  two three");
-  EXPECT_LT(shown(QString(1'000'000, 'x')).size(), 2000);
+  EXPECT_EQ(shown("one\r\ntwo"), "one…");
+  EXPECT_EQ(shown("\r\n\none\ttwo\r\n \r\n"), "one two") << "nothing follows";
+  EXPECT_EQ(shown("one\u2028two"), "one…");
+  EXPECT_EQ(shown("\r\n"), "");
+  EXPECT_EQ(shown(QString(1000, 'x')).size(), 1000);
+  EXPECT_EQ(shown(QString(1001, 'x')).right(2), "x…");
 }
 
 }  // namespace

@@ -11,6 +11,8 @@
 #include "datasource/CommandLog.h"
 #include "datasource/Labels.h"
 #include "datasource/ProcessLog.h"
+#include "datasource/Quorvel.h"
+#include "datasource/StepLog.h"
 
 namespace quorvel::test {
 
@@ -101,6 +103,12 @@ struct FakeHistory {
   std::int32_t processLogsCount = 0;
   datasource::ProcessLogRecords stations;
   std::int32_t stationsCount = 0;
+  datasource::ProcessLogRecords parts;  // of stations in runs
+  std::int32_t partsCount = 0;
+  datasource::TaskRunRecords tasks;
+  std::int32_t tasksCount = 0;
+  datasource::StepLogRecords steps;
+  std::int32_t stepsCount = 0;
   datasource::CommandLogRecords commands;
   std::int32_t commandsCount = 0;
   std::int32_t status = 0;      // of every query
@@ -154,10 +162,20 @@ class FakeProcessLog : public datasource::ProcessLog {
   void CloseProcessLogByTask(std::int32_t) override { Ask(history_, "CloseProcessLogByTask"); }
   const datasource::ProcessLogRecords& Records() const override { return records_; }
 
-  void GetProcessLogByProcess(std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t&) override {}
-  void GetProcessLogByUser(std::int32_t, DateValue, DateValue, DateValue, DateValue, std::int32_t, std::int32_t,
-                           std::int32_t, std::int32_t, std::int32_t, std::int32_t&) override {}
-  void CloseProcessLogByUser(std::int32_t) override {}
+  void GetProcessLogByProcess(std::int32_t, std::int32_t process, std::int32_t, std::int32_t,
+                              std::int32_t& status) override {
+    Ask(history_, "GetProcessLogByProcess " + std::to_string(process));
+    Answer({}, 0, status);
+  }
+  void GetProcessLogByUser(std::int32_t, DateValue from, DateValue to, DateValue, DateValue, std::int32_t state,
+                           std::int32_t process, std::int32_t user, std::int32_t company, std::int32_t,
+                           std::int32_t& status) override {
+    Ask(history_, "GetProcessLogByUser " + FormatFixedDateTime(from) + " " + FormatFixedDateTime(to) + " " +
+                      std::to_string(state) + " " + std::to_string(process) + " " + std::to_string(user) + " " +
+                      std::to_string(company));
+    Answer(history_.parts, history_.partsCount, status);
+  }
+  void CloseProcessLogByUser(std::int32_t) override { Ask(history_, "CloseProcessLogByUser"); }
   void GetProcessLogsByName(std::int32_t, DateValue, DateValue, std::string_view, std::int32_t&) override {}
   void CloseProcessLogsByName(std::int32_t) override {}
   void GetProcessLogDetail(std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t&) override {}
@@ -201,6 +219,41 @@ class FakeCommandLog : public datasource::CommandLog {
   FakeHistory& history_;
 };
 
+class FakeTaskRuns : public datasource::Quorvel {
+ public:
+  explicit FakeTaskRuns(FakeHistory& history) : history_(history) {}
+  ~FakeTaskRuns() override { history_.calls.emplace_back("release Quorvel"); }
+  std::int32_t lngCount() const override { return history_.tasksCount; }
+  void GetTaskRunsByProcessLog(std::int32_t, std::int32_t run, bool onStation, std::int32_t user,
+                               std::int32_t& status) override {
+    Ask(history_, "GetTaskRunsByProcessLog " + std::to_string(run) + (onStation ? " station " : " server ") +
+                      std::to_string(user));
+    status = history_.status;
+  }
+  void CloseTaskRuns(std::int32_t) override { Ask(history_, "CloseTaskRuns"); }
+  const datasource::TaskRunRecords& Records() const override { return history_.tasks; }
+
+ private:
+  FakeHistory& history_;
+};
+
+class FakeStepLog : public datasource::StepLog {
+ public:
+  explicit FakeStepLog(FakeHistory& history) : history_(history) {}
+  std::int32_t lngCount() const override { return history_.stepsCount; }
+  void GetStepLogByTaskRun(std::int32_t, std::int32_t task, std::int32_t run, std::int32_t user,
+                           std::int32_t& status) override {
+    Ask(history_,
+        "GetStepLogByTaskRun " + std::to_string(task) + " " + std::to_string(run) + " " + std::to_string(user));
+    status = history_.status;
+  }
+  void CloseStepLog(std::int32_t) override { Ask(history_, "CloseStepLog"); }
+  const datasource::StepLogRecords& Records() const override { return history_.steps; }
+
+ private:
+  FakeHistory& history_;
+};
+
 class FakeFactory : public datasource::RecordSourceFactory {
  public:
   explicit FakeFactory(FakeHistory& history) : history_(history) {}
@@ -209,6 +262,8 @@ class FakeFactory : public datasource::RecordSourceFactory {
     if (classIdentifier == datasource::Labels::kClassIdentifier) return std::make_unique<FakeLabels>(history_);
     if (classIdentifier == datasource::ProcessLog::kClassIdentifier) return std::make_unique<FakeProcessLog>(history_);
     if (classIdentifier == datasource::CommandLog::kClassIdentifier) return std::make_unique<FakeCommandLog>(history_);
+    if (classIdentifier == datasource::Quorvel::kClassIdentifier) return std::make_unique<FakeTaskRuns>(history_);
+    if (classIdentifier == datasource::StepLog::kClassIdentifier) return std::make_unique<FakeStepLog>(history_);
     throw Error(SystemError::kCannotCreateComponent, "No " + std::string(classIdentifier));
   }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <numeric>
 #include <random>
 #include <set>
 
@@ -32,6 +34,7 @@ class Listener : public ListObserver {
   explicit Listener(ListView& list) { list.ObserveList(this); }
   void ListReset() override { heard += "reset "; }
   void HeadersChanged() override { heard += "headers "; }
+  void RowsReordered() override { heard += "order "; }
   void RowsChanged(RowRange rows) override {
     heard += "rows " + std::to_string(rows.first) + "-" + std::to_string(rows.last) + " ";
   }
@@ -83,6 +86,84 @@ TEST(ListView, NewRowsForgetSelectionAndMarks) {
   EXPECT_TRUE(list.Selection().empty());
   EXPECT_FALSE(list.SelectedItem());
   EXPECT_EQ(list.Icon(2), "User_Ok");
+}
+
+// A row as it is seen.
+struct SeenRow {
+  std::string key;
+  std::string cell;
+  std::string icon;
+  bool bold = false;
+  bool selected = false;
+  bool item = false;
+  friend bool operator==(const SeenRow&, const SeenRow&) = default;
+};
+
+std::vector<SeenRow> Seen(const ListView& list) {
+  std::vector<SeenRow> rows;
+  for (std::size_t row = 0; row < list.Count(); ++row) {
+    rows.push_back({list.Key(row), list.Cell(row, 0), std::string(list.Icon(row)), list.Look(row).bold,
+                    list.Selection().Contains(row), list.SelectedItem() == row});
+  }
+  return rows;
+}
+
+TEST(ListView, RowsTakeAllTheirsAlongInAnyOrder) {
+  std::mt19937 random(5);
+  ListView list("list");
+  list.SetHeaders({{.caption = "Name"}});
+  for (int round = 0; round < 300; ++round) {
+    if (round % 20 == 0) list.SetRows(std::make_shared<NumberRows>(1 + random() % 12));
+    std::vector<SeenRow> expected = Seen(list);
+    const std::size_t at = random() % expected.size();
+    if (random() % 2 == 0) {
+      list.SetIcon(at, "Other");
+      expected[at].icon = "Other";
+    } else if (random() % 2 == 0) {
+      list.SetLook(at, {SystemColour::kWindowText, true});
+      expected[at].bold = true;
+    } else {
+      RowRanges rows;
+      rows.Add({at, expected.size()});
+      list.SetSelection(rows, at);
+      for (std::size_t row = 0; row < expected.size(); ++row) {
+        expected[row].selected = row >= at;
+        expected[row].item = row == at;
+      }
+    }
+    std::vector<std::uint32_t> order(expected.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::ranges::shuffle(order, random);
+    list.Reorder(order);
+    std::vector<SeenRow> moved;
+    for (const std::uint32_t row : order) moved.push_back(expected[row]);
+    ASSERT_TRUE(Seen(list) == moved) << "round " << round;
+    ASSERT_EQ(list.RowOfKey(moved[0].key), 0U);
+  }
+}
+
+TEST(ListView, ReordersAtOnceAndUntilOtherRowsCome) {
+  ListView list("list");
+  list.SetHeaders({{.caption = "Name", .icon = "ascending"}});
+  list.SetRows(std::make_shared<NumberRows>(3));
+  RowRanges first;
+  first.Add({0, 1});
+  list.SetSelection(first);
+  Listener listener(list);
+  list.InBatch([&] {
+    list.SetIcon(1, "Other");
+    list.Reorder({2, 1, 0});
+  });
+  EXPECT_EQ(std::exchange(listener.heard, ""), "order ") << "which tells the rest as well";
+  list.Reorder({0, 1, 2});
+  EXPECT_EQ(listener.heard, "") << "they stand where they stood";
+  EXPECT_THROW(list.Reorder({0, 1}), Error);
+  list.SetHeaders({{.caption = "Name", .icon = "ascending"}});
+  list.SetSorted(true);
+  list.SetRows(std::make_shared<NumberRows>(2));
+  EXPECT_EQ(list.Key(0), "0|K");
+  EXPECT_FALSE(list.sorted());
+  EXPECT_EQ(list.headers()[0].icon, "") << "an arrow would lie";
 }
 
 TEST(RowRanges, StayEqualToAPlainSetUnderRandomChanges) {

@@ -1,0 +1,119 @@
+// What the lists are put together from: column headers, and rows over the columns of a record source.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "datasource/Contract.h"
+#include "platform/Platform.h"
+#include "util/ListViewSort.h"
+#include "util/PublicFunctions.h"
+#include "util/PublicOstrana.h"
+#include "widgets/ListView.h"
+
+namespace quorvel::list {
+
+// A list for one kind of node: its headers, of which the first caption tells it from every other list, and its rows.
+using Headers = std::vector<widgets::ColumnHeader>;
+using Rows = std::shared_ptr<const widgets::RowSource>;
+
+inline constexpr widgets::Twips kReportWidth = 5000;
+inline constexpr widgets::Twips kDateWidth = 2250;
+
+inline widgets::ColumnHeader TextHeader(std::string_view caption, widgets::Twips width = widgets::kDefaultColumnWidth) {
+  return {.caption = std::string(caption), .width = width};
+}
+inline widgets::ColumnHeader DateHeader(std::string_view caption) {
+  return {.caption = std::string(caption), .width = kDateWidth, .tag = widgets::ColumnTag::kDates};
+}
+inline widgets::ColumnHeader NumberHeader(std::string_view caption, widgets::Twips width = 1000) {
+  return {.caption = std::string(caption),
+          .width = width,
+          .alignment = widgets::Alignment::kRight,
+          .tag = widgets::ColumnTag::kNumbers};
+}
+
+// The look of a row, which stands out when it failed.
+inline widgets::RowLook ErrorLook(bool failed) {
+  return failed ? util::FullRowLook(true, true) : widgets::RowLook{};
+}
+
+// What a cell holds: a text as a column has it, a date (0 = none), a number, or a text made for the cell.
+using CellValue = std::variant<std::string_view, DateValue, std::int32_t, std::string>;
+
+// Rows over the columns of `Records`, which are shared with the source and live as long as the list shows them. The
+// platform, which formats the dates, must outlive the rows.
+template <class Records>
+class RecordRows : public widgets::RowSource {
+ public:
+  RecordRows(Records records, std::int32_t count, std::string nodeKey, const Platform& platform)
+      : records_(std::move(records)),
+        count_(static_cast<std::size_t>(count)),
+        nodeKey_(std::move(nodeKey)),
+        platform_(platform) {}
+
+  std::size_t Count() const final { return count_; }
+
+  void AppendCell(std::size_t row, std::size_t column, std::string& out) const final {
+    std::visit([&](const auto& value) { AppendValue(value, out); }, CellOf(row, column));
+  }
+  std::optional<std::string_view> TextOf(std::size_t row, std::size_t column) const final {
+    return Held<std::string_view>(CellOf(row, column));
+  }
+  std::optional<DateValue> DateOf(std::size_t row, std::size_t column) const final {
+    return Held<DateValue>(CellOf(row, column));
+  }
+  std::optional<std::int32_t> NumberOf(std::size_t row, std::size_t column) const final {
+    return Held<std::int32_t>(CellOf(row, column));
+  }
+
+ protected:
+  // Every list says what its cells hold here; how that is shown and sorted follows from it.
+  virtual CellValue CellOf(std::size_t row, std::size_t column) const = 0;
+
+  const Records& records() const { return records_; }
+  // The key of the node that the list stands for.
+  const std::string& nodeKey() const { return nodeKey_; }
+
+  // "id|NODE"
+  void AppendIdKey(std::int32_t id, std::string& out) const {
+    out.append(std::to_string(id)).append(util::kKeySeparator).append(nodeKey_);
+  }
+
+ private:
+  void AppendValue(std::string_view text, std::string& out) const { out.append(text); }
+  void AppendValue(DateValue date, std::string& out) const {
+    out.append(util::strFormatDateTime(platform_, date, util::kDateAndTime));
+  }
+  void AppendValue(std::int32_t number, std::string& out) const { out.append(std::to_string(number)); }
+
+  template <class Value>
+  static std::optional<Value> Held(const CellValue& cell) {
+    const Value* const value = std::get_if<Value>(&cell);
+    return value == nullptr ? std::nullopt : std::optional(*value);
+  }
+
+  Records records_;
+  std::size_t count_;
+  std::string nodeKey_;
+  const Platform& platform_;
+};
+
+// The rows of a query's result as `Kind`, a RecordRows; none for a count below 1. `more`: what else its constructor
+// takes. Error 9 when a column that the query promises lacks rows.
+template <class Kind, class Records, class... More>
+Rows MakeRows(std::string_view query, const Records& records, std::int32_t count, std::string_view nodeKey,
+              const Platform& platform, const More&... more) {
+  if (count < 1) return nullptr;
+  datasource::RequireColumns(query, records, static_cast<std::size_t>(count));
+  return std::make_shared<Kind>(records, count, std::string(nodeKey), platform, more...);
+}
+
+}  // namespace quorvel::list

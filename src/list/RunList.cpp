@@ -1,0 +1,151 @@
+#include "list/RunList.h"
+
+#include <array>
+#include <cstdio>
+
+#include "list/RunOutcome.h"
+#include "list/StationRecord.h"
+
+namespace quorvel::list {
+namespace {
+
+using datasource::ProcessLogRecords;
+
+// What both lists of runs have in common.
+class AnyRunRows : public RecordRows<ProcessLogRecords> {
+ public:
+  AnyRunRows(const ProcessLogRecords& records, std::int32_t count, std::string nodeKey, const Platform& platform,
+             DateValue now)
+      : RecordRows(records, count, std::move(nodeKey), platform), now_(now) {}
+
+  // "NODE|flag|run"
+  void AppendKey(std::size_t row, std::string& out) const final {
+    out.append(nodeKey()).append(records().bRunOnStation[row] != 0 ? "|1|" : "|0|");
+    out.append(std::to_string(records().lngProcessLogId[row]));
+  }
+
+ protected:
+  // Run, start, end and duration, which come first.
+  CellValue RunCell(std::size_t row, std::size_t column, bool running) const {
+    switch (column) {
+      case 0:
+        return records().lngProcessLogId[row];
+      case 1:
+        return records().dtStartDate[row];
+      case 2:
+        return records().dtEndDate[row];
+      default:
+        return DurationText(records().dtStartDate[row], records().dtEndDate[row], running, now_);
+    }
+  }
+  static constexpr std::size_t kRunCells = 4;
+
+ private:
+  DateValue now_;
+};
+
+class RunRows final : public AnyRunRows {
+ public:
+  using AnyRunRows::AnyRunRows;
+
+  CellValue CellOf(std::size_t row, std::size_t column) const override {
+    const StationCounts counts = CountsOf(row);
+    if (column < kRunCells) return RunCell(row, column, counts.inProgress > 0);
+    if (column == kRunCells) return RunStatus(counts);
+    const std::array numbers{counts.total,      counts.ok,          counts.notOk,
+                             counts.inProgress, counts.notExecuted, counts.unknown};
+    return numbers[column - kRunCells - 1];
+  }
+
+  std::string_view Icon(std::size_t row) const override { return RunImageOf(CountsOf(row)); }
+  widgets::RowLook Look(std::size_t row) const override { return ErrorLook(records().lngNotOk[row] > 0); }
+
+ private:
+  StationCounts CountsOf(std::size_t row) const {
+    return {.total = records().lngStations[row],
+            .notExecuted = records().lngNotExecuted[row],
+            .inProgress = records().lngInProgress[row],
+            .notOk = records().lngNotOk[row],
+            .ok = records().lngOk[row],
+            .unknown = records().lngUnknown[row]};
+  }
+  // A run in which no station took part is as unknown here as it is in the tree.
+  static std::string_view RunImageOf(const StationCounts& counts) {
+    return RunImage(counts.total == 0 ? StationCounts{.unknown = 1} : counts);
+  }
+};
+
+class StationRunRows final : public AnyRunRows {
+ public:
+  using AnyRunRows::AnyRunRows;
+
+  CellValue CellOf(std::size_t row, std::size_t column) const override {
+    const bool running = GroupOf(records(), row) == StateGroup::kInProgress;
+    if (column < kRunCells) return RunCell(row, column, running);
+    constexpr std::size_t kPlace = kRunCells;
+    if (column != kPlace) return ClassifyStation(records(), row).caption;
+    return util::strGetExecuteWhereName(records().bRunOnStation[row] != 0 ? "Station" : "Server");
+  }
+
+  std::string_view Icon(std::size_t row) const override {
+    const std::string_view image = GetProcessIconName(PresenceOf(GroupOf(records(), row)), records().strWaitState[row]);
+    return image.empty() ? "Process" : image;
+  }
+  widgets::RowLook Look(std::size_t row) const override {
+    return ErrorLook(ClassifyStation(records(), row).caption == kUserNotOkCaption);
+  }
+};
+
+constexpr widgets::Twips kStatusWidth = 2600;
+constexpr widgets::Twips kWideNumber = 1300;
+
+widgets::ColumnHeader DurationHeader() {
+  return {.caption = "Duration", .width = 1200, .alignment = widgets::Alignment::kRight};
+}
+
+}  // namespace
+
+std::string DurationText(DateValue start, DateValue end, bool running, DateValue now) {
+  if (end == 0 && running) end = now;
+  if (start == 0 || end == 0) return {};
+  const std::optional<std::int64_t> seconds = SecondsBetween(start, end);
+  // A clock that was set back makes no duration.
+  if (!seconds || *seconds < 0) return {};
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%5lld:%02lld:%02lld", static_cast<long long>(*seconds / 3600),
+                static_cast<long long>(*seconds / 60 % 60), static_cast<long long>(*seconds % 60));
+  return text.data();
+}
+
+// How a run went stands before the numbers: it is what people look for, and they see it without scrolling. "NOT OK", as
+// it is written elsewhere, would keep that column from being sorted by.
+Headers RunListHeaders() {
+  return {NumberHeader("Batch"),
+          DateHeader("Start"),
+          DateHeader("End"),
+          DurationHeader(),
+          TextHeader("Status", kStatusWidth),
+          NumberHeader("Stations"),
+          NumberHeader("OK"),
+          NumberHeader("Not OK"),
+          NumberHeader("In progress", kWideNumber),
+          NumberHeader("Not executed", kWideNumber),
+          NumberHeader("Unknown")};
+}
+
+Rows RunListRows(const ProcessLogRecords& records, std::int32_t count, std::string_view nodeKey,
+                 const Platform& platform, DateValue now) {
+  return MakeRows<RunRows>("GetProcessLogByProcess", records, count, nodeKey, platform, now);
+}
+
+Headers StationRunListHeaders() {
+  return {NumberHeader("Run"), DateHeader("Start"), DateHeader("End"),
+          DurationHeader(),    TextHeader("Place"), TextHeader("Status", kStatusWidth)};
+}
+
+Rows StationRunListRows(const ProcessLogRecords& records, std::int32_t count, std::string_view nodeKey,
+                        const Platform& platform, DateValue now) {
+  return MakeRows<StationRunRows>("GetProcessLogByUser", records, count, nodeKey, platform, now);
+}
+
+}  // namespace quorvel::list

@@ -1,0 +1,111 @@
+#include "tree/Place.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "tree/NodeKey.h"
+
+namespace quorvel::tree {
+namespace {
+
+using widgets::NodeId;
+using widgets::TreeView;
+
+// How deep a kind of node lies, in terms that the views share: 1 process, 2 run, 3 station of a run, 4 task, 5 step.
+// Leaving a node and arriving at one differ where a view names more, or less, than the other at that level.
+struct Level {
+  std::string_view prefix;
+  std::size_t fields;
+  int left;     // what is known when such a node was left
+  int arrived;  // what must be known to go to such a node
+};
+
+constexpr Level kLevels[] = {
+    {kProcessPrefix, 2, 1, 1}, {kProcessPrefix, 4, 2, 2}, {kProcessPrefix, 5, 2, 3}, {kProcessPrefix, 6, 3, 3},
+    {kProcessPrefix, 7, 4, 4}, {kProcessPrefix, 9, 5, 5}, {kUserPrefix, 2, 0, 1},    {kUserPrefix, 3, 1, 1},
+    {kUserPrefix, 5, 3, 2},    {kUserPrefix, 6, 4, 4},    {kUserPrefix, 8, 5, 5},
+};
+
+int LevelLeft(std::string_view key) {
+  constexpr int kDeepest = 5;
+  const std::size_t fields = util::SplitKey(key).size();
+  const std::string_view prefix = util::Identifiant(key, 1);
+  const auto* const found = std::ranges::find_if(
+      kLevels, [&](const Level& level) { return level.prefix == prefix && level.fields == fields; });
+  return found == std::end(kLevels) ? kDeepest : found->left;
+}
+
+// The part of a key that lies before its field `fields`, counted from 0.
+std::size_t LengthOfFields(std::string_view key, std::size_t fields) {
+  std::size_t end = 0;
+  for (std::size_t field = 0; field < fields; ++field) {
+    end = key.find(util::kKeySeparator, field == 0 ? 0 : end + 1);
+    if (end == std::string_view::npos) return key.size();
+  }
+  return end;
+}
+
+Place PlaceDownTo(std::string_view key, int deepest) {
+  const std::size_t fields = util::SplitKey(key).size();
+  const std::string_view prefix = util::Identifiant(key, 1);
+  Place place;
+  std::size_t from = 0;
+  bool known = false;
+  for (const Level& level : kLevels) {
+    if (level.prefix != prefix) continue;
+    known = true;
+    if (level.fields > fields || level.arrived > deepest) break;
+    const std::size_t end = LengthOfFields(key, level.fields);
+    place.push_back({std::string(key.substr(from, end - from))});
+    from = end;
+  }
+  if (!known && !key.empty()) place.push_back({std::string(key)});
+  return place;
+}
+
+std::size_t OrdinalOf(const TreeView& tree, NodeId node) {
+  const auto siblings = tree.Children(tree.Parent(node)).first(tree.RowOf(node));
+  const std::string_view key = tree.Key(node);
+  return static_cast<std::size_t>(
+      std::ranges::count_if(siblings, [&](NodeId sibling) { return tree.Key(sibling) == key; }));
+}
+
+}  // namespace
+
+Place PlaceOf(const TreeView& tree, NodeId node) {
+  Place place;
+  for (; node != NodeId::kNone; node = tree.Parent(node)) {
+    const NodeId parent = tree.Parent(node);
+    const std::string_view above = parent == NodeId::kNone ? std::string_view() : tree.Key(parent);
+    const std::string_view key = tree.Key(node);
+    const bool extends = !above.empty() && key.starts_with(above);
+    place.push_back({std::string(extends ? key.substr(above.size()) : key), OrdinalOf(tree, node)});
+  }
+  std::ranges::reverse(place);
+  return place;
+}
+
+Place PlaceOfKey(std::string_view key) {
+  constexpr int kAnyDepth = 9;
+  return PlaceDownTo(key, kAnyDepth);
+}
+
+Place EquivalentPlace(std::string_view leftKey, std::string_view key) {
+  return PlaceDownTo(key, LevelLeft(leftKey));
+}
+
+NodeId ChildAt(const TreeView& tree, NodeId parent, const PlaceStep& step) {
+  const bool extends = parent != NodeId::kNone && step.fields.starts_with(util::kKeySeparator);
+  std::string key(extends ? tree.Key(parent) : std::string_view());
+  key.append(step.fields);
+  std::size_t before = 0;
+  NodeId found = NodeId::kNone;
+  for (const NodeId child : tree.Children(parent)) {
+    if (tree.Key(child) != key) continue;
+    found = child;
+    if (before++ == step.ordinal) break;
+  }
+  return found;
+}
+
+}  // namespace quorvel::tree
