@@ -109,15 +109,42 @@ void Click(Session& session, Arguments arguments, std::ostream& /*out*/) {
   session.viewer().ClickNode(ShownNode(session, arguments[0]));
 }
 
+std::size_t RowOf(const widgets::ListView& list, const std::string& key) {
+  const std::optional<std::size_t> row = list.RowOfKey(key);
+  if (!row) throw ScriptError("No such row: " + key);
+  return *row;
+}
+
+void DoubleClick(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  const widgets::ListView& list = Controls(session).lvMotherList;
+  RequireUsable(session, list);
+  session.viewer().DoubleClickRow(RowOf(list, arguments[0]));
+}
+
+// Columns are counted from 1 in scripts.
+std::size_t ColumnOf(Session& session, const std::string& number) {
+  const widgets::ListView& list = Controls(session).lvMotherList;
+  RequireUsable(session, list);
+  const std::int32_t column = NumberOf(number);
+  if (column < 1 || column > static_cast<std::int32_t>(list.headers().size())) {
+    throw ScriptError("No such column: " + number);
+  }
+  return static_cast<std::size_t>(column) - 1;
+}
+
+void ClickColumn(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  session.viewer().ClickHeader(ColumnOf(session, arguments[0]));
+}
+
+void Widen(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  session.viewer().WidenColumn(ColumnOf(session, arguments[0]), NumberOf(arguments[1]));
+}
+
 void Select(Session& session, Arguments arguments, std::ostream& /*out*/) {
   const widgets::ListView& list = Controls(session).lvMotherList;
   RequireUsable(session, list);
   std::vector<std::size_t> rows;
-  for (const std::string& key : arguments) {
-    const std::optional<std::size_t> row = list.RowOfKey(key);
-    if (!row) throw ScriptError("No such row: " + key);
-    rows.push_back(*row);
-  }
+  for (const std::string& key : arguments) rows.push_back(RowOf(list, key));
   session.viewer().SelectRows(rows);
 }
 
@@ -149,12 +176,21 @@ void Scroll(Session& session, Arguments arguments, std::ostream& /*out*/) {
 }
 
 constexpr CommandEntry kCommands[] = {
-    {"tab", "CAPTION", 1, 1, ClickTab},   {"option", "CONTROL VALUE", 2, 2, SetOption},
-    {"refresh", "", 0, 0, Refresh},       {"press", "BUTTON | UPDOWN up|down", 1, 2, Press},
-    {"expand", "KEY", 1, 1, Expand},      {"collapse", "KEY", 1, 1, Collapse},
-    {"click", "KEY", 1, 1, Click},        {"select", "KEY [KEY ...]", 1, kAnyNumber, Select},
-    {"drag", "TWIPS [hold]", 1, 2, Drag}, {"drop", "", 0, 0, Drop},
-    {"size", "WIDTH HEIGHT", 2, 2, Size}, {"scroll", "SCROLLBAR VALUE", 2, 2, Scroll},
+    {"tab", "CAPTION", 1, 1, ClickTab},
+    {"option", "CONTROL VALUE", 2, 2, SetOption},
+    {"refresh", "", 0, 0, Refresh},
+    {"press", "BUTTON | UPDOWN up|down", 1, 2, Press},
+    {"expand", "KEY", 1, 1, Expand},
+    {"collapse", "KEY", 1, 1, Collapse},
+    {"click", "KEY", 1, 1, Click},
+    {"select", "KEY [KEY ...]", 1, kAnyNumber, Select},
+    {"doubleclick", "KEY", 1, 1, DoubleClick},
+    {"column", "NUMBER", 1, 1, ClickColumn},
+    {"widen", "COLUMN TWIPS", 2, 2, Widen},
+    {"drag", "TWIPS [hold]", 1, 2, Drag},
+    {"drop", "", 0, 0, Drop},
+    {"size", "WIDTH HEIGHT", 2, 2, Size},
+    {"scroll", "SCROLLBAR VALUE", 2, 2, Scroll},
 };
 
 }  // namespace

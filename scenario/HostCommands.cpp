@@ -22,6 +22,8 @@ constexpr Property kProperties[] = {
     {"p_FromType",
      [](const ucProcessLog& viewer) { return std::to_string(static_cast<std::int32_t>(viewer.p_FromType())); },
      [](ucProcessLog& viewer, std::string_view value) { viewer.p_FromType(static_cast<tlFromType>(NumberOf(value))); }},
+    {"p_IdAppLog", [](const ucProcessLog& viewer) { return std::to_string(viewer.p_IdAppLog()); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_IdAppLog(NumberOf(value)); }},
     {"p_Key", [](const ucProcessLog& viewer) { return viewer.p_Key(); },
      [](ucProcessLog& viewer, std::string_view value) { viewer.p_Key(value); }},
     {"p_ListCount", [](const ucProcessLog& viewer) { return std::to_string(viewer.p_ListCount()); }, nullptr},
@@ -63,6 +65,10 @@ constexpr Method kMethods[] = {
     {"m_GetLogByProcess", "[0|1]", 0, 1,
      [](ucProcessLog& viewer, Arguments arguments, std::ostream&) {
        viewer.m_GetLogByProcess(!arguments.empty() && FlagOf(arguments[0]));
+     }},
+    {"m_GetLogByUser", "[0|1]", 0, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream&) {
+       viewer.m_GetLogByUser(!arguments.empty() && FlagOf(arguments[0]));
      }},
     {"m_GetLogAll", "STATE", 1, 1,
      [](ucProcessLog& viewer, Arguments arguments, std::ostream& out) {

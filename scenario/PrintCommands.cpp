@@ -1,9 +1,11 @@
 // The command `print`: what a user sees, as text.
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <vector>
 
 #include "scenario/Commands.h"
+#include "scenario/Values.h"
 #include "scenario/ViewerControls.h"
 
 namespace quorvel::scenario {
@@ -70,6 +72,21 @@ void PrintList(Session& session, std::ostream& out) {
         << Escaped(list.Key(row)) << '\t';
     PrintJoined(rows[row].cells, out);
   }
+}
+
+// A cell that may be too long to print: its bytes, and how it begins and ends.
+void PrintCell(Session& session, Arguments place, std::ostream& out) {
+  constexpr std::size_t kShown = 40;
+  const widgets::ListView& list = session.viewer().viewer().controls().lvMotherList;
+  const auto row = list.RowOfKey(place[0]);
+  if (!row) throw ScriptError("No such row: " + place[0]);
+  const std::vector<std::string> cells = session.viewer().Rows().at(*row).cells;
+  const std::int32_t column = NumberOf(place[1]);
+  if (column < 1 || column > static_cast<std::int32_t>(cells.size())) throw ScriptError("No such column: " + place[1]);
+  const std::string& cell = cells[static_cast<std::size_t>(column) - 1];
+  out << cell.size() << " bytes\t" << Escaped(cell.substr(0, kShown));
+  if (cell.size() > kShown) out << '\t' << Escaped(cell.substr(std::max(kShown, cell.size() - kShown)));
+  out << '\n';
 }
 
 void PrintColumns(Session& session, std::ostream& out) {
@@ -198,6 +215,8 @@ void Print(Session& session, Arguments arguments, std::ostream& out) {
     PrintLayout(session, rest, out);
   } else if (arguments[0] == "tree" && rest.size() == 1 && rest[0] == "all") {
     PrintTree(session, true, out);
+  } else if (arguments[0] == "cell" && rest.size() == 2) {
+    PrintCell(session, rest, out);
   } else if (rest.empty()) {
     Named(kPrints, arguments[0], "print").print(session, out);
   } else {

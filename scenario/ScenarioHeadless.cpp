@@ -1,6 +1,7 @@
 #include "scenario/ScenarioHeadless.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "scenario/Values.h"
@@ -125,6 +126,14 @@ class HeadlessViewer : public ViewerPort {
     // The row clicked last is the one that commands act on.
     c_.lvMotherList.SetSelection(std::move(selection), rows.empty() ? std::nullopt : std::optional(rows.back()));
   }
+
+  void DoubleClickRow(std::size_t row) override {
+    SelectRows(std::array{row});
+    viewer_.lvMotherList_DblClick();
+  }
+
+  void ClickHeader(std::size_t column) override { viewer_.lvMotherList_ColumnClick(column + 1); }
+  void WidenColumn(std::size_t column, widgets::Twips width) override { c_.lvMotherList.SetHeaderWidth(column, width); }
 
   void PressGrip() override { viewer_.imgSplitter_MouseDown(); }
   void MoveGrip(int pixels) override { viewer_.imgSplitter_MouseMove(pixels * widgets::kTwipsPerPixel); }

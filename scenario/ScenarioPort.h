@@ -89,6 +89,10 @@ class ViewerPort {
   virtual void ClickNode(widgets::NodeId node) = 0;
   // In place of the selection.
   virtual void SelectRows(std::span<const std::size_t> rows) = 0;
+  virtual void DoubleClickRow(std::size_t row) = 0;
+  // A column header, counted from 0: clicked; its right edge dragged until it is so wide.
+  virtual void ClickHeader(std::size_t column) = 0;
+  virtual void WidenColumn(std::size_t column, widgets::Twips width) = 0;
   // The splitter: press on the grip, move by whole pixels from where it was pressed, let go.
   virtual void PressGrip() = 0;
   virtual void MoveGrip(int pixels) = 0;

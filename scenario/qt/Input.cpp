@@ -40,6 +40,12 @@ void ClickMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers) {
   ReleaseMouse(widget, at, modifiers);
 }
 
+void DoubleClickMouse(QWidget& widget, QPoint at) {
+  ClickMouse(widget, at);
+  SendMouse(widget, QEvent::MouseButtonDblClick, at, Qt::LeftButton, Qt::LeftButton, {});
+  ReleaseMouse(widget, at);
+}
+
 void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
   SendKey(widget, key, modifiers, {});
 }

@@ -15,6 +15,8 @@ void DragMouse(QWidget& widget, QPoint to);
 void ReleaseMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers = {});
 void ClickMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers = {});
 
+void DoubleClickMouse(QWidget& widget, QPoint at);
+
 void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 // Character by character.
 void TypeText(QWidget& widget, const QString& text);

@@ -284,6 +284,28 @@ void QtViewer::SelectRows(std::span<const std::size_t> rows) {
   Settle();
 }
 
+void QtViewer::DoubleClickRow(std::size_t row) {
+  qt::ListPane& list = widget_->list();
+  DoubleClickMouse(*list.viewport(), PointOn(list, list.model()->index(static_cast<int>(row), 0)));
+  Settle();
+}
+
+void QtViewer::ClickHeader(std::size_t column) {
+  QHeaderView& header = *widget_->list().horizontalHeader();
+  const int section = static_cast<int>(column);
+  widget_->list().scrollTo(widget_->list().model()->index(0, section));
+  Settle();
+  // Near its beginning: the end of a wide column may lie outside the window.
+  ClickMouse(*header.viewport(), {header.sectionViewportPosition(section) + 2 * kIntoText, header.height() / 2});
+  Settle();
+}
+
+void QtViewer::WidenColumn(std::size_t column, widgets::Twips width) {
+  // As a drag of the header's edge ends.
+  widget_->list().horizontalHeader()->resizeSection(static_cast<int>(column), qt::ToPixels(width));
+  Settle();
+}
+
 void QtViewer::PressGrip() {
   PressMouse(Of(widget_->control().controls().imgSplitter), {0, 0});
 }

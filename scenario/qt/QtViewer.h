@@ -38,6 +38,9 @@ class QtViewer final : public ViewerPort {
   void SetOpen(widgets::NodeId node, bool open) override;
   void ClickNode(widgets::NodeId node) override;
   void SelectRows(std::span<const std::size_t> rows) override;
+  void DoubleClickRow(std::size_t row) override;
+  void ClickHeader(std::size_t column) override;
+  void WidenColumn(std::size_t column, widgets::Twips width) override;
   void PressGrip() override;
   void MoveGrip(int pixels) override;
   void ReleaseGrip() override;

@@ -47,7 +47,10 @@ struct Refusal {
 
 TEST_F(ScenarioTest, WhatNobodyCouldDoStopsTheScript) {
   const Refusal refusals[] = {
-      {"doubleclick x", "No such command: doubleclick"},
+      {"tick", "No such command: tick"},
+      {"doubleclick x", "No such row: x"},
+      {"column 12", "No such column: 12"},
+      {"print cell LPROC|11|0|101 1", "No such row: LPROC|11|0|101"},
       {"expand", "Use: expand KEY"},
       {"print detail", "No such print: detail"},
       {"set p_Nothing 1", "No such property: p_Nothing"},
