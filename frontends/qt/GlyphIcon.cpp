@@ -21,22 +21,47 @@ using widgets::IconPicture;
 using widgets::IconShape;
 using widgets::ShapeKind;
 
-QColor ColourOf(IconColour colour, const IconInk& ink) {
-  if (ink.base && colour == IconColour::kInk) return *ink.base;
-  QColor drawn = QColor::fromRgb(widgets::IconRgb(colour, ink.dark));
-  if (ink.base && colour == IconColour::kBody) {
-    drawn = *ink.base;
-    drawn.setAlphaF(0.25F);
+// Parts that a base in one colour keeps apart by how much of it they let through.
+std::optional<qreal> ShareOfBase(IconColour colour) {
+  switch (colour) {
+    case IconColour::kInk:
+    case IconColour::kAccent:
+    case IconColour::kAlarm:
+    case IconColour::kNone:
+      return 1.0;
+    case IconColour::kBody:
+      return 0.25;
+    case IconColour::kNoneBody:
+      return 0.0;
+    default:
+      return {};
   }
-  return drawn;
+}
+
+QColor ColourOf(IconColour colour, const IconInk& ink) {
+  if (const auto share = ShareOfBase(colour); ink.base && share) {
+    QColor drawn = *ink.base;
+    drawn.setAlphaF(static_cast<float>(*share));
+    return drawn;
+  }
+  return QColor::fromRgb(widgets::IconRgb(colour, ink.dark));
+}
+
+QRectF Around(std::span<const float> centreAndRadii) {
+  const auto n = centreAndRadii;
+  return {n[0] - n[2], n[1] - n[3], 2 * n[2], 2 * n[3]};
 }
 
 QPainterPath PathOf(const IconShape& shape) {
   const auto n = shape.numbers();
   QPainterPath path;
   switch (shape.kind) {
-    case ShapeKind::kCircle:
-      path.addEllipse(QPointF(n[0], n[1]), n[2], n[2]);
+    case ShapeKind::kEllipse:
+      path.addEllipse(Around(n));
+      break;
+    case ShapeKind::kArc:
+      path.arcMoveTo(Around(n), -n[4]);
+      path.arcTo(Around(n), -n[4], -n[5]);
       break;
     case ShapeKind::kBox:
       path.addRoundedRect(QRectF(n[0], n[1], n[2], n[3]), n[4], n[4]);
@@ -51,35 +76,45 @@ QPainterPath PathOf(const IconShape& shape) {
   return path;
 }
 
-void DrawGlyph(QPainter& painter, widgets::Glyph glyph, const IconInk& ink) {
+QPen PenOf(const QColor& colour, qreal width) {
+  return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+void DrawGlyph(QPainter& painter, widgets::Glyph glyph, bool quiet, const IconInk& ink) {
   for (const IconShape& shape : glyph) {
-    const QColor colour = ColourOf(shape.colour, ink);
+    const QColor colour = ColourOf(quiet ? widgets::QuietColour(shape.colour) : shape.colour, ink);
     if (shape.stroke > 0) {
-      painter.strokePath(PathOf(shape), QPen(colour, shape.stroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      painter.strokePath(PathOf(shape), PenOf(colour, shape.stroke));
     } else {
       painter.fillPath(PathOf(shape), colour);
     }
   }
 }
 
+// The outline, with a rim of that width around it.
+void FillWithRim(QPainter& painter, const IconShape& outline, qreal rim, const QColor& colour) {
+  const QPainterPath path = PathOf(outline);
+  painter.fillPath(path, colour);
+  painter.strokePath(path, PenOf(colour, 2 * rim));
+}
+
 void CutOut(QPainter& painter, const widgets::IconBadge& badge) {
-  QPainterPath circle;
-  circle.addEllipse(QPointF(badge.centreX, badge.centreY), badge.cutRadius, badge.cutRadius);
   painter.setCompositionMode(QPainter::CompositionMode_Clear);
-  painter.fillPath(circle, Qt::black);
+  FillWithRim(painter, badge.outline, widgets::kBadgeGap, Qt::black);
   painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 // On a highlight of its own colour a badge would be lost.
 void DrawPlate(QPainter& painter, const widgets::IconBadge& badge, const QColor& colour) {
-  const qreal radius = badge.cutRadius - 0.6;
-  QPainterPath circle;
-  circle.addEllipse(QPointF(badge.centreX, badge.centreY), radius, radius);
-  painter.fillPath(circle, colour);
+  FillWithRim(painter, badge.outline, widgets::kBadgeGap / 2, colour);
 }
 
-bool PaletteIsDark() {
-  return QGuiApplication::palette().color(QPalette::Base).lightness() < 128;
+bool IsDark(const QColor& background) {
+  return background.lightness() < 128;
+}
+
+IconInk InkOn(const QColor& background) {
+  return {IsDark(background), {}};
 }
 
 // Draws itself where and as large as it is asked to; remembers the last few drawings, which a list repeats row by row.
@@ -133,7 +168,8 @@ class GlyphEngine : public QIconEngine {
   }
 
   static Order OrderFor(int pixels, QIcon::Mode mode, QIcon::State state) {
-    Order order{state == QIcon::On ? kOpen : kNormal, pixels, mode == QIcon::Disabled, {PaletteIsDark(), {}}};
+    Order order{state == QIcon::On ? kOpen : kNormal, pixels, mode == QIcon::Disabled,
+                InkOn(QGuiApplication::palette().color(QPalette::Base))};
     if (mode == QIcon::Selected || mode == QIcon::Active) order.face = kSelected;
     if (mode == QIcon::Selected) order.ink.base = QGuiApplication::palette().color(QPalette::HighlightedText);
     return order;
@@ -165,12 +201,13 @@ QImage DrawIcon(const IconPicture& picture, int pixels, const IconInk& ink) {
   painter.setRenderHint(QPainter::Antialiasing);
   const qreal scale = pixels / qreal{widgets::kIconGrid};
   painter.scale(scale, scale);
-  DrawGlyph(painter, picture.base, ink);
-  for (const widgets::IconBadge* badge : picture.badges) {
+  DrawGlyph(painter, picture.base, picture.quiet, ink);
+  for (const widgets::IconBadge* badge : picture.Badges()) {
     if (badge == nullptr) continue;
     CutOut(painter, *badge);
-    if (ink.base && !badge->inBaseColours) DrawPlate(painter, *badge, *ink.base);
-    DrawGlyph(painter, badge->glyph, ink);
+    const bool onPlate = ink.base && !badge->inBaseColours;
+    if (onPlate) DrawPlate(painter, *badge, *ink.base);
+    DrawGlyph(painter, badge->glyph, picture.quiet, onPlate ? InkOn(*ink.base) : ink);
   }
   return image;
 }

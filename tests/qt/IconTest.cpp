@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 #include <string>
+#include <vector>
 
 #include "qt/GlyphIcon.h"
 
@@ -27,31 +29,36 @@ int DifferingPixels(const QImage& a, const QImage& b) {
   return count;
 }
 
-TEST(Icon, EveryKeyInUseHasAPicture) {
-  for (const char* process :
-       {"Process", "ProcessStation", "ProcessOk", "ProcessNONOK", "ProcessUndefined", "ProcessStart",
-        "ProcessWaitingCom", "ProcessWaitingStation", "ProcessWaitingExecution", "ProcessWaitingPrerequisite"}) {
-    EXPECT_TRUE(widgets::FindIcon(process)) << process;
-  }
-  for (const char* user :
-       {"User", "User_Ok", "User_NoOk", "User_Undefined", "User_NoExecute", "User_Inprogress", "User_WaitingCom",
-        "User_WaitingStation", "User_WaitingExecution", "User_WaitingPrerequisite"}) {
-    EXPECT_TRUE(widgets::FindIcon(user)) << user;
-  }
-  for (const char* header : {"ascending", "descending", "ascendingD", "descendingD"}) {
-    EXPECT_TRUE(widgets::FindIcon(header)) << header;
-  }
-  EXPECT_FALSE(widgets::FindIcon(""));
-  EXPECT_FALSE(widgets::FindIcon("process"));
-}
-
 TEST(Icon, NoTwoLookAlikeInGrey) {
   const auto keys = widgets::IconKeys();
+  std::vector<QImage> pictures;
+  for (const std::string& key : keys) pictures.push_back(GreyOf(key));
   for (std::size_t i = 0; i < keys.size(); ++i) {
     for (std::size_t j = i + 1; j < keys.size(); ++j) {
-      EXPECT_GE(DifferingPixels(GreyOf(keys[i]), GreyOf(keys[j])), 4) << keys[i] << " and " << keys[j];
+      EXPECT_GE(DifferingPixels(pictures[i], pictures[j]), 8) << keys[i] << " and " << keys[j];
     }
   }
+}
+
+int Darkest(const QImage& grey) {
+  int darkest = 255;
+  for (int y = 0; y < grey.height(); ++y) {
+    for (int x = 0; x < grey.width(); ++x) darkest = std::min(darkest, qGray(grey.pixel(x, y)));
+  }
+  return darkest;
+}
+
+TEST(Icon, OfATaskThatWasNotExecutedIsQuieterThanOfOneThatWas) {
+  constexpr std::string_view kSuffix = "NotExec";
+  int checked = 0;
+  for (const std::string& key : widgets::IconKeys()) {
+    const std::size_t suffix = key.find(kSuffix);
+    if (suffix == std::string::npos) continue;
+    const std::string executed = std::string(key).erase(suffix, kSuffix.size());
+    EXPECT_GT(Darkest(GreyOf(key)), Darkest(GreyOf(executed)) + 30) << key;
+    ++checked;
+  }
+  EXPECT_EQ(checked, 54);
 }
 
 TEST(Icon, StaysReadableOnDarkAndOnASelectedRow) {
@@ -64,6 +71,17 @@ TEST(Icon, StaysReadableOnDarkAndOnASelectedRow) {
             plain.pixelColor(8, 2).lightness() + 40);
   EXPECT_EQ(icon.pixmap(QSize(16, 16), 2.0).toImage().size(), QSize(32, 32)) << "sharp at 200 %";
   EXPECT_TRUE(icons.Of("no such key").isNull());
+}
+
+TEST(Icon, OnASelectedRowKeepsBadgesInColoursOfTheirOwnOnAPlate) {
+  const auto drawn = [](std::string_view key) {
+    return DrawIcon(*widgets::FindIcon(key), 32, {.dark = false, .base = QColor(Qt::white)});
+  };
+  EXPECT_EQ(drawn("ProcessOk").pixelColor(16, 23).rgb(),
+            0xFF000000 | widgets::IconRgb(widgets::IconColour::kOk, false));
+  EXPECT_EQ(drawn("TelecolNotExec").pixelColor(2, 25).rgb(),
+            0xFF000000 | widgets::IconRgb(widgets::IconColour::kNone, false));
+  EXPECT_EQ(drawn("ProcessStation").pixelColor(22, 31).rgb(), QColor(Qt::white).rgb()) << "a mark in the base's colour";
 }
 
 }  // namespace
