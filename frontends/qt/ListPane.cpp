@@ -219,7 +219,8 @@ void ListPane::mouseMoveEvent(QMouseEvent* event) {
 
 void ListPane::mouseReleaseEvent(QMouseEvent* event) {
   Guarded([&] {
-    if (!std::exchange(doubleClicked_, false)) QTableView::mouseReleaseEvent(event);
+    doubleClicked_ = false;
+    QTableView::mouseReleaseEvent(event);
   });
 }
 

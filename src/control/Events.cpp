@@ -1,8 +1,10 @@
 // The control's event handlers: what a gesture does. Each shows and logs its own errors.
 #include <string>
+#include <utility>
 
 #include "control/Hourglass.h"
 #include "control/Layout.h"
+#include "control/Working.h"
 #include "control/ucProcessLog.h"
 #include "list/Classification.h"
 #include "util/ListViewSort.h"
@@ -21,13 +23,23 @@ void ucProcessLog::UserControl_Resize(Twips width, Twips height) {
   });
 }
 
-void ucProcessLog::sstProcessLog_Click() {
-  Reporting(errors_, "Quorvel: ucProcessLog.sstProcessLog_Click", [&] {
+template <class Body>
+void ucProcessLog::Handle(std::string_view label, Body&& body) {
+  if (f_blnClickNode) return;
+  Reporting(errors_, label, [&] {
+    const Working working(f_blnClickNode);
     const Hourglass hourglass(platform_);
+    std::forward<Body>(body)();
+  });
+}
+
+void ucProcessLog::sstProcessLog_Click() {
+  Handle("Quorvel: ucProcessLog.sstProcessLog_Click", [&] {
     const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
     // The key needs the tree that is about to go.
     const std::string left = SelectedKey();
     const tree::Place place = tree::EquivalentPlace(left, GetNextContextKeyInLogs(left, NameOf(view)));
+    shown_ = {};
     ClearPanes();
     InitStateListByTab();
     ControlsVisible(static_cast<std::int32_t>(StateFilterOf(controls_.cboState.selectedText()).value()));
@@ -36,16 +48,14 @@ void ucProcessLog::sstProcessLog_Click() {
 }
 
 void ucProcessLog::cmdRefresh_Click() {
-  Reporting(errors_, "Quorvel: ucProcessLog.cmdRefresh_Click", [&] {
-    const Hourglass hourglass(platform_);
-    const tree::Place place = SelectedPlace();
+  Handle("Quorvel: ucProcessLog.cmdRefresh_Click", [&] {
     if (f_tlFromType == tlFromType::tlOneProcess) {
-      StateFilter state = StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll);
-      m_GetLogAll(state);
+      BuildAll(StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll));
     } else {
       // The host's whole log list is the alarms view here, though its tab click builds nothing.
       const bool logs = f_tlFromType == tlFromType::tlLogs;
-      BuildView(logs ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()), place);
+      BuildView(logs ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()),
+                SelectedPlace());
     }
   });
 }
@@ -70,8 +80,7 @@ void ucProcessLog::updDuring_DownClick() {
 }
 
 void ucProcessLog::tvMotherList_Expand(NodeId node) {
-  Reporting(errors_, "Quorvel: ucProcessLog.tvMotherList_Expand", [&] {
-    const Hourglass hourglass(platform_);
+  Handle("Quorvel: ucProcessLog.tvMotherList_Expand", [&] {
     LoadNode(node);
     controls_.tvMotherList.SetExpanded(node, true);
   });
@@ -83,19 +92,12 @@ void ucProcessLog::tvMotherList_Collapse(NodeId node) {
 }
 
 void ucProcessLog::tvMotherList_NodeClick(NodeId node) {
-  if (f_blnClickNode) return;
-  f_blnClickNode = true;
-  Reporting(errors_, "Quorvel: ucProcessLog.tvMotherList_NodeClick", [&] {
-    const Hourglass hourglass(platform_);
-    HandleNodeClick(node);
-  });
-  f_blnClickNode = false;
+  Handle("Quorvel: ucProcessLog.tvMotherList_NodeClick", [&] { HandleNodeClick(node); });
 }
 
 // Rows are not sorted by columns of these captions.
 void ucProcessLog::lvMotherList_ColumnClick(std::size_t column) {
-  Reporting(errors_, "Quorvel: ucProcessLog.lvMotherList_ColumnClick", [&] {
-    const Hourglass hourglass(platform_);
+  Handle("Quorvel: ucProcessLog.lvMotherList_ColumnClick", [&] {
     widgets::ListView& list = controls_.lvMotherList;
     if (column >= 1 && column <= list.headers().size()) {
       const std::string& caption = list.headers()[column - 1].caption;
@@ -106,12 +108,11 @@ void ucProcessLog::lvMotherList_ColumnClick(std::size_t column) {
 }
 
 void ucProcessLog::lvMotherList_DblClick() {
-  Reporting(errors_, "Quorvel: ucProcessLog.lvMotherList_DblClick", [&] {
-    const Hourglass hourglass(platform_);
+  Handle("Quorvel: ucProcessLog.lvMotherList_DblClick", [&] {
     widgets::TreeView& tree = controls_.tvMotherList;
     const auto row = controls_.lvMotherList.SelectedItem();
     if (!row || tree.Selected() == NodeId::kNone) return;
-    const NodeId node = NodeOfRow(tree.Selected(), controls_.lvMotherList.Key(*row));
+    const NodeId node = NodeOfRow(tree.Selected(), *row);
     if (node == NodeId::kNone) return;
     LoadNode(node);
     OpenWayTo(node);

@@ -5,7 +5,6 @@
 #include "tree/ProcessTree.h"
 #include "tree/TaskTree.h"
 #include "tree/UserTree.h"
-#include "util/PublicFunctions.h"
 
 namespace quorvel {
 
@@ -44,31 +43,17 @@ void ucProcessLog::LoadNode(NodeId node) {
 void ucProcessLog::ExpandStateGroup(NodeId node) {
   Propagating("Quorvel: ucProcessLog.lvMotherList_NodeState", [&] {
     widgets::TreeView& tree = controls_.tvMotherList;
-    constexpr std::int32_t kRunField = 4;
-    constexpr std::int32_t kStateField = 5;
-    const std::int32_t run = util::IdentifiantNumber(tree.Key(node), kRunField);
-    const std::int32_t state = util::IdentifiantNumber(tree.Key(node), kStateField);
-    datasource::ProcessLog& source = ProcessLogSource();
-    std::int32_t status = 0;
-    source.GetProcessLogByTask(f_lngConnect, run, state, status);
-    ReplaceChildren(node, [&] {
-      if (status == 0) tree::AppendStationNodes(source.Records(), source.lngCount(), node, tree);
-    });
-    source.CloseProcessLogByTask(f_lngConnect);
+    const tree::GroupOfRun group = tree::ReadGroupKey(tree.Key(node));
+    const auto stations = AskStations(group.run, group.state);
+    ReplaceChildren(node, [&] { tree::AppendStationNodes(stations.records, stations.count, node, tree); });
   });
 }
 
 void ucProcessLog::tvMotherList_ExpandUser(NodeId node) {
   Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandUser", [&] {
     widgets::TreeView& tree = controls_.tvMotherList;
-    const tree::PartOfRun part = tree::ReadPartKey(tree.Key(node));
-    datasource::Quorvel& source = TaskRunSource();
-    std::int32_t status = 0;
-    source.GetTaskRunsByProcessLog(f_lngConnect, part.run, part.onStation, part.user, status);
-    ReplaceChildren(node, [&] {
-      if (status == 0) tree::AppendTaskNodes(source.Records(), source.lngCount(), serverMode_, node, tree);
-    });
-    source.CloseTaskRuns(f_lngConnect);
+    const auto tasks = AskTasks(tree::ReadPartKey(tree.Key(node)));
+    ReplaceChildren(node, [&] { tree::AppendTaskNodes(tasks.records, tasks.count, serverMode_, node, tree); });
   });
 }
 
@@ -77,27 +62,17 @@ void ucProcessLog::tvMotherList_ExpandTask(NodeId node) {
     widgets::TreeView& tree = controls_.tvMotherList;
     const auto task = tree::ReadTaskKey(tree.Key(node), f_lngUserId);
     if (!task) return;
-    const auto source = CreateStepLog();
-    std::int32_t status = 0;
-    source->GetStepLogByTaskRun(f_lngConnect, task->task, task->run, task->user, status);
-    ReplaceChildren(node, [&] {
-      if (status == 0) tree::AppendStepNodes(source->Records(), source->lngCount(), node, tree);
-    });
-    source->CloseStepLog(f_lngConnect);
+    const auto steps = AskSteps(*task);
+    ReplaceChildren(node, [&] { tree::AppendStepNodes(steps.records, steps.count, node, tree); });
   });
 }
 
-// The runs that the tree was built for, whatever the options panel says by now.
 void ucProcessLog::tvMotherList_ExpandProcess(NodeId node) {
   Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandProcess", [&] {
     widgets::TreeView& tree = controls_.tvMotherList;
     const tree::ProcessOnStation wanted = tree::ReadProcessKey(tree.Key(node));
-    datasource::ProcessLog& source = ProcessLogSource();
-    const bool found = QueryByUser(shownFilter_, wanted.process, wanted.user);
-    ReplaceChildren(node, [&] {
-      if (found) tree::AppendRunsOfStation(source.Records(), source.lngCount(), platform_, node, tree);
-    });
-    source.CloseProcessLogByUser(f_lngConnect);
+    const auto parts = AskParts(wanted.process, wanted.user);
+    ReplaceChildren(node, [&] { tree::AppendRunsOfStation(parts.records, parts.count, platform_, node, tree); });
   });
 }
 

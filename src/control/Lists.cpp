@@ -16,6 +16,7 @@
 #include "list/StateList.h"
 #include "list/StepList.h"
 #include "list/TaskList.h"
+#include "tree/ProcessTree.h"
 #include "tree/TaskTree.h"
 #include "tree/UserTree.h"
 #include "util/KeyPrefixes.h"
@@ -29,8 +30,14 @@ using widgets::NodeId;
 
 void ucProcessLog::HandleNodeClick(NodeId node) {
   controls_.tvMotherList.Select(node);
+  placeToReturnTo_.clear();
   controls_.lvMotherList.SetRows(nullptr);
-  FillList(node);
+  try {
+    FillList(node);
+  } catch (...) {
+    MajStatusBarInfrmMain();
+    throw;
+  }
   MajStatusBarInfrmMain();
 }
 
@@ -47,7 +54,7 @@ void ucProcessLog::FillList(NodeId node) {
     case ClickRoutine::kNodeUser:
       return lvMotherList_NodeUser(node);
     case ClickRoutine::kNodeUserRun:
-      return ListTasks(node);
+      return lvMotherList_NodeUserRun(node);
     case ClickRoutine::kNodeTask:
       return lvMotherList_NodeTask(node);
     case ClickRoutine::kNodeStep:
@@ -84,50 +91,37 @@ void ucProcessLog::lvMotherList_NodeAllProcess(NodeId node) {
 }
 
 void ucProcessLog::ListRunsOfProcess(NodeId node) {
-  const std::string key(controls_.tvMotherList.Key(node));
   constexpr std::int32_t kProcessField = 2;
-  constexpr std::int32_t kReserved = 0;
+  const std::string key(controls_.tvMotherList.Key(node));
   PrepareList(list::RunListHeaders());
-  const std::int32_t process = IdentifiantNumber(key, kProcessField);
-  datasource::ProcessLog& source = ProcessLogSource();
-  std::int32_t status = 0;
-  source.GetProcessLogByProcess(f_lngConnect, process, kReserved, kReserved, status);
-  if (status == 0) {
-    controls_.lvMotherList.SetRows(
-        list::RunListRows(source.Records(), source.lngCount(), key, platform_, platform_.Now()));
-  }
-  source.CloseProcessLogs(f_lngConnect);
+  const auto runs = AskRuns(IdentifiantNumber(key, kProcessField));
+  controls_.lvMotherList.SetRows(list::RunListRows(runs.records, runs.count, key, platform_, platform_.Now()));
 }
 
 void ucProcessLog::ListRunsOnStation(NodeId node) {
   const std::string key(controls_.tvMotherList.Key(node));
   PrepareList(list::StationRunListHeaders());
   const tree::ProcessOnStation wanted = tree::ReadProcessKey(key);
-  datasource::ProcessLog& source = ProcessLogSource();
-  if (QueryByUser(shownFilter_, wanted.process, wanted.user)) {
-    controls_.lvMotherList.SetRows(
-        list::StationRunListRows(source.Records(), source.lngCount(), key, platform_, platform_.Now()));
-  }
-  source.CloseProcessLogByUser(f_lngConnect);
+  const auto parts = AskParts(wanted.process, wanted.user);
+  controls_.lvMotherList.SetRows(list::StationRunListRows(parts.records, parts.count, key, platform_, platform_.Now()));
 }
 
+// A question for each state. Who changes state between two of them may be listed twice, or not at all, until the next
+// click.
 void ucProcessLog::lvMotherList_NodeCurrentProcess(NodeId node) {
   if (!list::IsRunningImage(controls_.tvMotherList.Image(node))) return lvMotherList_NodeProcess(node);
   Propagating("Quorvel: ucProcessLog.lvMotherList_NodeCurrentProcess", [&] {
     const Hourglass hourglass(platform_);
     const std::string key(controls_.tvMotherList.Key(node));
-    constexpr std::int32_t kRunField = 4;
     PrepareList(list::CurrentRunListHeaders());
-    const std::int32_t run = IdentifiantNumber(key, kRunField);
-    datasource::ProcessLog& source = ProcessLogSource();
+    const std::int32_t run = tree::ReadRunKey(key);
     std::vector<list::StationsOfGroup> groups;
     for (const list::StateGroup group : list::kCurrentRunGroups) {
-      std::int32_t status = 0;
-      source.GetProcessLogByTask(f_lngConnect, run, static_cast<std::int32_t>(group), status);
-      if (status == 0) groups.push_back({group, source.Records(), source.lngCount()});
-      source.CloseProcessLogByTask(f_lngConnect);
+      groups.push_back({group, AskStations(run, static_cast<std::int32_t>(group))});
     }
-    controls_.lvMotherList.SetRows(list::CurrentRunListRows(std::move(groups), key, platform_));
+    controls_.lvMotherList.SetRows(list::CurrentRunListRows(groups, key, platform_));
+    // The list is newer than the tree: each of its rows must find its node.
+    tree::UpdateStateGroups(groups, node, controls_.tvMotherList);
   });
 }
 
@@ -135,28 +129,28 @@ void ucProcessLog::lvMotherList_NodeState(NodeId node) {
   Propagating("Quorvel: ucProcessLog.lvMotherList_NodeState", [&] {
     const Hourglass hourglass(platform_);
     const std::string key(controls_.tvMotherList.Key(node));
-    constexpr std::int32_t kRunField = 4;
-    constexpr std::int32_t kStateField = 5;
     widgets::ListView& list = controls_.lvMotherList;
     PrepareList(list::StateListHeaders());
     list.SetSortOrder(widgets::SortOrder::kDescending);
-    const std::int32_t run = IdentifiantNumber(key, kRunField);
-    const std::int32_t state = IdentifiantNumber(key, kStateField);
-    datasource::ProcessLog& source = ProcessLogSource();
-    std::int32_t status = 0;
-    source.GetProcessLogByTask(f_lngConnect, run, state, status);
-    if (status == 0) list.SetRows(list::StateListRows(source.Records(), source.lngCount(), key, platform_));
-    source.CloseProcessLogByTask(f_lngConnect);
+    const tree::GroupOfRun group = tree::ReadGroupKey(key);
+    const auto stations = AskStations(group.run, group.state);
+    list.SetRows(list::StateListRows(stations.records, stations.count, key, platform_));
   });
 }
 
 void ucProcessLog::lvMotherList_NodeUser(NodeId node) {
   Propagating("Quorvel: ucProcessLog.lvMotherList_NodeUser", [&] {
     platform_.SetMousePointer(MousePointer::kHourglass);
-    static_cast<void>(ReturnOptionsFilter(StateFilter::kAll, false));
     if (util::Identifiant(controls_.tvMotherList.Key(node), 1) == util::kProcessPrefix) ListTasks(node);
     // Ends with the hourglass: whoever calls it sets the pointer once more things are done.
     platform_.SetMousePointer(MousePointer::kHourglass);
+  });
+}
+
+void ucProcessLog::lvMotherList_NodeUserRun(NodeId node) {
+  Propagating("Quorvel: ucProcessLog.lvMotherList_NodeUserRun", [&] {
+    const Hourglass hourglass(platform_);
+    ListTasks(node);
   });
 }
 
@@ -164,14 +158,8 @@ void ucProcessLog::ListTasks(NodeId node) {
   const std::string key(controls_.tvMotherList.Key(node));
   const tree::PartOfRun part = tree::ReadPartKey(key);
   PrepareList(list::TaskListHeaders());
-  datasource::Quorvel& source = TaskRunSource();
-  std::int32_t status = 0;
-  source.GetTaskRunsByProcessLog(f_lngConnect, part.run, part.onStation, part.user, status);
-  if (status == 0) {
-    controls_.lvMotherList.SetRows(
-        list::TaskListRows(source.Records(), source.lngCount(), key, platform_, serverMode_));
-  }
-  source.CloseTaskRuns(f_lngConnect);
+  const auto tasks = AskTasks(part);
+  controls_.lvMotherList.SetRows(list::TaskListRows(tasks.records, tasks.count, key, platform_, serverMode_));
 }
 
 void ucProcessLog::lvMotherList_NodeTask(NodeId node) {
@@ -184,11 +172,8 @@ void ucProcessLog::lvMotherList_NodeTask(NodeId node) {
     list.SetSortKey(list::kStepSortKey);
     const auto task = tree::ReadTaskKey(key, f_lngUserId);
     if (!task) return;
-    const auto source = CreateStepLog();
-    std::int32_t status = 0;
-    source->GetStepLogByTaskRun(f_lngConnect, task->task, task->run, task->user, status);
-    if (status == 0) list.SetRows(list::StepListRows(source->Records(), source->lngCount(), key, platform_));
-    source->CloseStepLog(f_lngConnect);
+    const auto steps = AskSteps(*task);
+    list.SetRows(list::StepListRows(steps.records, steps.count, key, platform_));
   });
 }
 
@@ -197,14 +182,8 @@ void ucProcessLog::lvMotherList_NodeStep(NodeId node) {
     const Hourglass hourglass(platform_);
     const std::string key(controls_.tvMotherList.Key(node));
     PrepareList(list::CommandListHeaders());
-    const std::int32_t step = tree::StepLogOfKey(key);
-    datasource::CommandLog& source = CommandLogSource();
-    std::int32_t status = 0;
-    source.GetCommandLogByStepLog(f_lngConnect, step, status);
-    if (status == 0) {
-      controls_.lvMotherList.SetRows(list::CommandListRows(source.Records(), source.lngCount(), key, platform_));
-    }
-    source.CloseCommandLogByStepLog(f_lngConnect);
+    const auto commands = AskCommands(tree::StepLogOfKey(key));
+    controls_.lvMotherList.SetRows(list::CommandListRows(commands.records, commands.count, key, platform_));
   });
 }
 

@@ -11,9 +11,10 @@ namespace quorvel {
 using widgets::NodeId;
 
 tree::Place ucProcessLog::SelectedPlace() const {
+  if (!placeToReturnTo_.empty()) return placeToReturnTo_;
   const widgets::TreeView& tree = controls_.tvMotherList;
   if (tree.Selected() != NodeId::kNone) return tree::PlaceOf(tree, tree.Selected());
-  return tree.Count() > 0 ? tree::PlaceOf(tree, tree.Child(NodeId::kNone, 0)) : placeToReturnTo_;
+  return tree.Count() > 0 ? tree::PlaceOf(tree, tree.Child(NodeId::kNone, 0)) : tree::Place{};
 }
 
 std::string ucProcessLog::SelectedKey() const {
@@ -28,28 +29,35 @@ std::string ucProcessLog::SelectedKey() const {
 void ucProcessLog::SelectAfterBuild(const tree::Place& place) {
   widgets::TreeView& tree = controls_.tvMotherList;
   if (tree.Count() == 0) return;
-  NodeId node = DescendTo(place);
+  NodeId node = NodeId::kNone;
+  try {
+    DescendTo(place, node);
+  } catch (...) {
+    if (node != NodeId::kNone) {
+      OpenWayTo(node);
+      tree.Select(node);
+    }
+    throw;
+  }
   if (node == NodeId::kNone) node = tree.Child(NodeId::kNone, 0);
   OpenWayTo(node);
   HandleNodeClick(node);
 }
 
-NodeId ucProcessLog::DescendTo(const tree::Place& place) {
+void ucProcessLog::DescendTo(const tree::Place& place, NodeId& reached) {
   const widgets::TreeView& tree = controls_.tvMotherList;
-  NodeId node = NodeId::kNone;
   for (std::size_t i = 0; i < place.size(); ++i) {
-    if (node != NodeId::kNone) LoadNode(node);
-    NodeId next = tree::ChildAt(tree, node, place[i]);
-    if (next == NodeId::kNone && node != NodeId::kNone) {
+    if (reached != NodeId::kNone) LoadNode(reached);
+    NodeId next = tree::ChildAt(tree, reached, place[i]);
+    if (next == NodeId::kNone && reached != NodeId::kNone) {
       // The station may be in another state by now, or the state be derived: its run knows.
-      const ClickRoutine kind = RouteOf(tree.Key(node)).click;
-      if (kind == ClickRoutine::kNodeCurrentProcess && i + 1 < place.size()) next = FindInGroups(node, place[++i]);
-      if (kind == ClickRoutine::kNodeState) next = FindInGroups(tree.Parent(node), place[i]);
+      const ClickRoutine kind = RouteOf(tree.Key(reached)).click;
+      if (kind == ClickRoutine::kNodeCurrentProcess && i + 1 < place.size()) next = FindInGroups(reached, place[++i]);
+      if (kind == ClickRoutine::kNodeState) next = FindInGroups(tree.Parent(reached), place[i]);
     }
-    if (next == NodeId::kNone) break;
-    node = next;
+    if (next == NodeId::kNone) return;
+    reached = next;
   }
-  return node;
 }
 
 NodeId ucProcessLog::FindInGroups(NodeId run, const tree::PlaceStep& station) {
@@ -72,19 +80,25 @@ void ucProcessLog::OpenWayTo(NodeId node) {
   });
 }
 
-NodeId ucProcessLog::NodeOfRow(NodeId node, std::string_view rowKey) {
+// The row's key tells, so a step is found whatever its icon.
+NodeId ucProcessLog::NodeOfRow(NodeId node, std::size_t row) {
   const widgets::TreeView& tree = controls_.tvMotherList;
   LoadNode(node);
   const std::string nodeKey(tree.Key(node));
   const std::string above = std::string(util::kKeySeparator) + nodeKey;
   // A row carries the key of its node, or its own number before that of the node that the list stands for.
-  tree::PlaceStep step{std::string(rowKey)};
-  if (rowKey.ends_with(above)) {
-    step.fields = std::string(util::kKeySeparator) + std::string(rowKey.substr(0, rowKey.size() - above.size()));
+  tree::PlaceStep step{controls_.lvMotherList.Key(row)};
+  if (step.fields.ends_with(above)) {
+    step.fields.resize(step.fields.size() - above.size());
+    step.fields.insert(0, util::kKeySeparator);
+    if (list::IsCurrentProcessName(nodeKey)) return FindInGroups(node, step);
   }
-  const NodeId child = tree::ChildAt(tree, node, step);
-  if (child != NodeId::kNone) return child;
-  return list::IsCurrentProcessName(nodeKey) ? FindInGroups(node, step) : NodeId::kNone;
+  // Rows and children come in the same order: where keys repeat, the place tells them apart.
+  const std::size_t place = controls_.lvMotherList.SourceRow(row);
+  if (place < tree.ChildCount(node) && tree::KeyAt(tree, node, step) == tree.Key(tree.Child(node, place))) {
+    return tree.Child(node, place);
+  }
+  return tree::ChildAt(tree, node, step);
 }
 
 std::string ucProcessLog::GetNextContextKeyInLogs(std::string_view key, std::string_view view) {
@@ -101,17 +115,10 @@ std::string ucProcessLog::ConnectionsContextKey() {
   if (context_.ContextStepLog.empty()) return {};
   const std::int32_t stepLog = util::IdentifiantNumber(context_.ContextStepLog, 1);
   if (stepLog == 0) return {};
-  datasource::CommandLog& source = CommandLogSource();
-  std::int32_t status = 0;
-  source.GetCommandLogByStepLog(f_lngConnect, stepLog, status);
-  std::string key;
-  if (status == 0 && source.lngCount() > 0) {
-    const auto& rows = source.Records();
-    datasource::RequireColumns("GetCommandLogByStepLog", rows, static_cast<std::size_t>(source.lngCount()));
-    key = context_.ConnectionsKey(rows.dtCommunicationDate[0], rows.lngCommunicationId[0]);
-  }
-  source.CloseCommandLogByStepLog(f_lngConnect);
-  return key;
+  const auto commands = AskCommands(stepLog);
+  if (commands.count <= 0) return {};
+  datasource::RequireColumns("GetCommandLogByStepLog", commands.records, static_cast<std::size_t>(commands.count));
+  return context_.ConnectionsKey(commands.records.dtCommunicationDate[0], commands.records.lngCommunicationId[0]);
 }
 
 }  // namespace quorvel

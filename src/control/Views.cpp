@@ -1,7 +1,9 @@
 // The builders of the trees and the lists behind their nodes.
 #include <string>
+#include <utility>
 
 #include "control/Hourglass.h"
+#include "control/Working.h"
 #include "control/ucProcessLog.h"
 #include "tree/ProcessTree.h"
 #include "tree/UserTree.h"
@@ -9,17 +11,32 @@
 namespace quorvel {
 
 using datasource::Propagating;
-using widgets::NodeId;
+
+template <class Body>
+void ucProcessLog::Build(std::string_view label, Body&& body) {
+  if (f_blnClickNode) {
+    throw Error(static_cast<std::int32_t>(SystemError::kInvalidCall), std::string(label),
+                "The viewer is at work on an earlier request");
+  }
+  const Working working(f_blnClickNode);
+  std::forward<Body>(body)();
+}
 
 void ucProcessLog::m_GetLogByProcess(bool refresh) {
-  BuildByProcess(refresh ? SelectedPlace() : tree::PlaceOfKey(f_strKey));
+  Build("Quorvel: ucProcessLog.m_GetLogByProcess",
+        [&] { BuildByProcess(refresh ? SelectedPlace() : tree::PlaceOfKey(f_strKey)); });
 }
 
 void ucProcessLog::m_GetLogByUser(bool refresh) {
-  BuildByUser(refresh ? SelectedPlace() : tree::PlaceOfKey(f_strKey));
+  Build("Quorvel: ucProcessLog.m_GetLogByUser",
+        [&] { BuildByUser(refresh ? SelectedPlace() : tree::PlaceOfKey(f_strKey)); });
 }
 
 void ucProcessLog::m_GetLogAll(StateFilter& state) {
+  Build("Quorvel: ucProcessLog.m_GetLogAll", [&] { BuildAll(state); });
+}
+
+void ucProcessLog::BuildAll(StateFilter state) {
   Propagating("Quorvel: ucProcessLog.m_GetLogAll", [&] {
     const Hourglass hourglass(platform_);
     const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
@@ -73,49 +90,21 @@ void ucProcessLog::ClearPanes() {
 // from what the observers were told.
 void ucProcessLog::BuildTree(View view, const OptionsFilter& filter, const tree::Place& place) {
   placeToReturnTo_ = place;
-  shownFilter_ = filter;
+  shown_ = {view, filter, f_lngProcessId, IdentifierFor(tlFromType::tlOneUser),
+            IdentifierFor(tlFromType::tlOneCompany)};
   ClearPanes();
   if (view == View::kUsers) {
-    ReadUsers(filter);
+    const auto parts = AskParts(shown_.processId, shown_.userId);
+    tree::AppendUserNodes(parts.records, parts.count, controls_.tvMotherList);
   } else {
     controls_.sstProcessLog.SetCaption(0, "Processes");
     controls_.sstProcessLog.SetCaption(1, "Users");
-    ReadProcesses(filter);
+    const auto stations = AskProcesses();
+    tree::AppendProcessNodes(stations.records, stations.count, platform_, errors_, controls_.tvMotherList);
   }
-  SelectAfterBuild(place);
   SetfraListCaption();
   ModifyMotherListSize();
-}
-
-void ucProcessLog::ReadProcesses(const OptionsFilter& filter) {
-  datasource::ProcessLog& source = ProcessLogSource();
-  constexpr std::int32_t kReserved = 0;
-  std::int32_t status = 0;
-  source.GetProcessLogs(f_lngConnect, filter.start, filter.end, static_cast<std::int32_t>(filter.state), f_lngProcessId,
-                        IdentifierFor(tlFromType::tlOneUser), IdentifierFor(tlFromType::tlOneCompany), kReserved,
-                        kReserved, status);
-  if (status == 0) {
-    tree::AppendProcessNodes(source.Records(), source.lngCount(), platform_, errors_, controls_.tvMotherList);
-  }
-  source.CloseProcessLogs(f_lngConnect);
-}
-
-void ucProcessLog::ReadUsers(const OptionsFilter& filter) {
-  datasource::ProcessLog& source = ProcessLogSource();
-  if (QueryByUser(filter, f_lngProcessId, IdentifierFor(tlFromType::tlOneUser))) {
-    tree::AppendUserNodes(source.Records(), source.lngCount(), controls_.tvMotherList);
-  }
-  source.CloseProcessLogByUser(f_lngConnect);
-}
-
-// One period serves the runs on the server and those on stations.
-bool ucProcessLog::QueryByUser(const OptionsFilter& filter, std::int32_t processId, std::int32_t userId) {
-  constexpr std::int32_t kServerAndStations = -1;
-  std::int32_t status = 0;
-  ProcessLogSource().GetProcessLogByUser(f_lngConnect, filter.start, filter.end, filter.start, filter.end,
-                                         static_cast<std::int32_t>(filter.state), processId, userId,
-                                         IdentifierFor(tlFromType::tlOneCompany), kServerAndStations, status);
-  return status == 0;
+  SelectAfterBuild(place);
 }
 
 std::int32_t ucProcessLog::IdentifierFor(tlFromType type) const {

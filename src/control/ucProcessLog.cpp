@@ -162,8 +162,10 @@ bool ucProcessLog::ClearColumnHeaderLV(std::string_view firstCaption) {
 void ucProcessLog::SetfraListCaption() {
   Propagating("Quorvel: ucProcessLog.SetfraListCaption", [&] {
     const std::int32_t count = tree::CountItemsInTreeview(controls_.tvMotherList);
-    controls_.fraList.SetText(std::string(controls_.sstProcessLog.currentCaption()) + " (" + std::to_string(count) +
-                              ")");
+    // A host may show a view under the tab of another.
+    const std::string_view view = NameOf(shown_.view);
+    const std::string_view name = view.empty() ? controls_.sstProcessLog.currentCaption() : view;
+    controls_.fraList.SetText(std::string(name) + " (" + std::to_string(count) + ")");
   });
 }
 
@@ -184,10 +186,6 @@ datasource::CommandLog& ucProcessLog::CommandLogSource() {
 datasource::Quorvel& ucProcessLog::TaskRunSource() {
   if (!taskRuns_) taskRuns_ = datasource::CreateRecordSource<datasource::Quorvel>(factory_, f_strServerName);
   return *taskRuns_;
-}
-
-std::unique_ptr<datasource::StepLog> ucProcessLog::CreateStepLog() {
-  return datasource::CreateRecordSource<datasource::StepLog>(factory_, f_strServerName);
 }
 
 }  // namespace quorvel

@@ -22,6 +22,7 @@
 #include "platform/Platform.h"
 #include "tree/NavigationContext.h"
 #include "tree/Place.h"
+#include "tree/TaskTree.h"
 #include "widgets/TreeView.h"
 
 namespace quorvel {
@@ -129,36 +130,41 @@ class ucProcessLog {
   // Clears the headers when they are not those that begin with this caption; tells whether they must be set.
   bool ClearColumnHeaderLV(std::string_view firstCaption);
 
+  // Runs a public method that builds: with the hourglass, passing errors on. Error 5 while another one, or a gesture,
+  // is being worked on: a component or a host that lets messages through may call back.
+  template <class Body>
+  void Build(std::string_view label, Body&& body);
+  // Runs a gesture's handler in the same way, showing errors. A gesture that comes in between is not for what it was
+  // made on: it does nothing.
+  template <class Body>
+  void Handle(std::string_view label, Body&& body);
+
   // Views. `place`: where to go after the build, as far as that exists then.
   void BuildView(View view, const tree::Place& place);
   void BuildByProcess(const tree::Place& place);
   void BuildByUser(const tree::Place& place);
+  void BuildAll(StateFilter state);
   // Error 445 for a view that this version does not build.
   void RequireBuilt(View view) const;
   void BuildTree(View view, const OptionsFilter& filter, const tree::Place& place);
   // Empties tree and list, and what tells their numbers.
   void ClearPanes();
-  void ReadProcesses(const OptionsFilter& filter);
-  void ReadUsers(const OptionsFilter& filter);
-  // Asks for the parts of stations in runs that `filter` and the properties leave. True when there is something to
-  // read.
-  bool QueryByUser(const OptionsFilter& filter, std::int32_t processId, std::int32_t userId);
   // What p_IdAppLog says when p_FromType is `type`, else -1, which does not filter.
   std::int32_t IdentifierFor(tlFromType type) const;
 
-  // Places. Of the selected node, else of the first; while the tree is empty, where the last build wanted to go: a
-  // build that failed does not lose the place.
+  // Places. Where a build that did not come to its end wanted to go, else that of the selected node, else of the first.
   tree::Place SelectedPlace() const;
   std::string SelectedKey() const;
   void SelectAfterBuild(const tree::Place& place);
-  // The deepest node on the way to a place that is there or can be loaded; kNone when not even a root is.
-  widgets::NodeId DescendTo(const tree::Place& place);
+  // Goes down to the deepest node on the way to a place that is there or can be loaded. `reached`, kNone before, is
+  // that node, by an error on the way too.
+  void DescendTo(const tree::Place& place, widgets::NodeId& reached);
   // The node of a station under whichever state group of a run lists it now.
   widgets::NodeId FindInGroups(widgets::NodeId run, const tree::PlaceStep& station);
   // Opens what stands above the node, so that it can be seen.
   void OpenWayTo(widgets::NodeId node);
-  // The node under `node` that stands for the row of that key in its list; kNone when there is none.
-  widgets::NodeId NodeOfRow(widgets::NodeId node, std::string_view rowKey);
+  // The node under `node` that stands for a row of its list; kNone when there is none.
+  widgets::NodeId NodeOfRow(widgets::NodeId node, std::size_t row);
 
   // Expanders: load the children of a node.
   void LoadNode(widgets::NodeId node);
@@ -180,6 +186,7 @@ class ucProcessLog {
   void lvMotherList_NodeCurrentProcess(widgets::NodeId node);
   void lvMotherList_NodeState(widgets::NodeId node);
   void lvMotherList_NodeUser(widgets::NodeId node);
+  void lvMotherList_NodeUserRun(widgets::NodeId node);
   void lvMotherList_NodeTask(widgets::NodeId node);
   void lvMotherList_NodeStep(widgets::NodeId node);
   void ListRunsOfProcess(widgets::NodeId node);
@@ -188,10 +195,20 @@ class ucProcessLog {
   void MajStatusBarInfrmMain();
   std::string ConnectionsContextKey();
 
+  // Questions to the record sources: each asks, takes the answer and releases it.
+  using ProcessLogAnswer = datasource::Answer<datasource::ProcessLogRecords>;
+  ProcessLogAnswer AskProcesses();
+  ProcessLogAnswer AskRuns(std::int32_t processId);
+  // Parts of stations in runs, as the tree shown was asked for.
+  ProcessLogAnswer AskParts(std::int32_t processId, std::int32_t userId);
+  ProcessLogAnswer AskStations(std::int32_t run, std::int32_t state);
+  datasource::Answer<datasource::TaskRunRecords> AskTasks(const tree::PartOfRun& part);
+  datasource::Answer<datasource::StepLogRecords> AskSteps(const tree::TaskOfRun& task);
+  datasource::Answer<datasource::CommandLogRecords> AskCommands(std::int32_t stepLog);
+
   datasource::ProcessLog& ProcessLogSource();
   datasource::CommandLog& CommandLogSource();
   datasource::Quorvel& TaskRunSource();
-  std::unique_ptr<datasource::StepLog> CreateStepLog();
 
   Platform& platform_;
   datasource::RecordSourceFactory& factory_;
@@ -199,7 +216,16 @@ class ucProcessLog {
   ProcessLogControls controls_;
   tree::NavigationContext context_;
 
-  bool f_blnClickNode = false;
+  // What the tree shown was asked for; properties that are set later wait for the next build.
+  struct Shown {
+    View view = View::kNone;
+    OptionsFilter filter;
+    std::int32_t processId = -1;
+    std::int32_t userId = -1;
+    std::int32_t companyId = -1;
+  };
+
+  bool f_blnClickNode = false;  // something is being worked on
   std::int32_t f_lngConnect = -1;
   std::int32_t f_lngProcessId = -1;
   std::int32_t f_lngUserId = 0;
@@ -207,8 +233,8 @@ class ucProcessLog {
   tlFromType f_tlFromType = tlFromType::tlAllOnStation;
   std::string f_strKey;
   std::string f_strServerName;
-  tree::Place placeToReturnTo_;
-  OptionsFilter shownFilter_;  // what the tree was built with
+  tree::Place placeToReturnTo_;  // nowhere once a build came to its end
+  Shown shown_;
   bool serverMode_ = true;
   bool labelsRead_ = false;
   bool splitterMoving_ = false;

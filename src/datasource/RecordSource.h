@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "datasource/Column.h"
 #include "platform/Dates.h"
@@ -28,6 +29,20 @@ class RecordSource {
   // Rows of the last query; 0 or less = nothing to read.
   virtual std::int32_t lngCount() const = 0;
 };
+
+// What a query found: its columns, which outlive the release, and its number of rows; none for a status other than 0.
+template <class Records>
+struct Answer {
+  Records records;
+  std::int32_t count = 0;
+};
+
+// Takes the answer of a query that gave this status.
+template <class Source>
+auto TakeAnswer(const Source& source, std::int32_t status) {
+  using Records = std::remove_cvref_t<decltype(source.Records())>;
+  return status == 0 ? Answer<Records>{source.Records(), source.lngCount()} : Answer<Records>{};
+}
 
 // Creates record sources by class identifier. One per data-access component.
 class RecordSourceFactory {

@@ -1,6 +1,7 @@
 #include "list/CurrentRunList.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "list/RunOutcome.h"
 #include "list/StationRecord.h"
@@ -81,6 +82,10 @@ class RowsInParts final : public widgets::RowSource {
     const Place place = PlaceOf(row);
     return place.part.DateOf(place.row, column);
   }
+  std::optional<std::int32_t> NumberOf(std::size_t row, std::size_t column) const override {
+    const Place place = PlaceOf(row);
+    return place.part.NumberOf(place.row, column);
+  }
   std::string_view Icon(std::size_t row) const override {
     const Place place = PlaceOf(row);
     return place.part.Icon(place.row);
@@ -119,10 +124,11 @@ Headers CurrentRunListHeaders() {
           DateHeader("End")};
 }
 
-Rows CurrentRunListRows(std::vector<StationsOfGroup> groups, std::string_view nodeKey, const Platform& platform) {
+Rows CurrentRunListRows(std::span<const StationsOfGroup> groups, std::string_view nodeKey, const Platform& platform) {
   std::vector<Rows> parts;
   for (const StationsOfGroup& each : groups) {
-    Rows rows = MakeRows<GroupRows>("GetProcessLogByTask", each.records, each.count, nodeKey, platform, each.group);
+    Rows rows = MakeRows<GroupRows>("GetProcessLogByTask", each.stations.records, each.stations.count, nodeKey,
+                                    platform, each.group);
     if (rows) parts.push_back(std::move(rows));
   }
   return std::make_shared<RowsInParts>(std::move(parts));

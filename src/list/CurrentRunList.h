@@ -3,9 +3,8 @@
 
 #include <array>
 #include <cstdint>
-#include <memory>
+#include <span>
 #include <string_view>
-#include <vector>
 
 #include "datasource/ProcessLog.h"
 #include "list/Classification.h"
@@ -22,12 +21,11 @@ Headers CurrentRunListHeaders();
 // One state group of the run, as GetProcessLogByTask gave it.
 struct StationsOfGroup {
   StateGroup group = StateGroup::kUnknown;
-  datasource::ProcessLogRecords records;
-  std::int32_t count = 0;
+  datasource::Answer<datasource::ProcessLogRecords> stations;
 };
 
 // A row for each station, group by group; its key is the station's identifier, "|", `nodeKey`, the run's. Error 9 when
 // a column lacks rows.
-Rows CurrentRunListRows(std::vector<StationsOfGroup> groups, std::string_view nodeKey, const Platform& platform);
+Rows CurrentRunListRows(std::span<const StationsOfGroup> groups, std::string_view nodeKey, const Platform& platform);
 
 }  // namespace quorvel::list

@@ -57,7 +57,7 @@ class RunRows final : public AnyRunRows {
     return numbers[column - kRunCells - 1];
   }
 
-  std::string_view Icon(std::size_t row) const override { return RunImageOf(CountsOf(row)); }
+  std::string_view Icon(std::size_t row) const override { return ImageOfRun(CountsOf(row)); }
   widgets::RowLook Look(std::size_t row) const override { return ErrorLook(records().lngNotOk[row] > 0); }
 
  private:
@@ -68,10 +68,6 @@ class RunRows final : public AnyRunRows {
             .notOk = records().lngNotOk[row],
             .ok = records().lngOk[row],
             .unknown = records().lngUnknown[row]};
-  }
-  // A run in which no station took part is as unknown here as it is in the tree.
-  static std::string_view RunImageOf(const StationCounts& counts) {
-    return RunImage(counts.total == 0 ? StationCounts{.unknown = 1} : counts);
   }
 };
 
@@ -89,7 +85,7 @@ class StationRunRows final : public AnyRunRows {
 
   std::string_view Icon(std::size_t row) const override {
     const std::string_view image = GetProcessIconName(PresenceOf(GroupOf(records(), row)), records().strWaitState[row]);
-    return image.empty() ? "Process" : image;
+    return image.empty() ? kPlainProcessImage : image;
   }
   widgets::RowLook Look(std::size_t row) const override {
     return ErrorLook(ClassifyStation(records(), row).caption == kUserNotOkCaption);

@@ -85,6 +85,10 @@ std::string_view RunImage(const StationCounts& counts) {
   return "ProcessOk";
 }
 
+std::string_view ImageOfRun(const StationCounts& counts) {
+  return RunImage(counts.total == 0 ? StationCounts{.unknown = 1} : counts);
+}
+
 std::string RunStatus(const StationCounts& counts) {
   if (counts.total == 0) return std::string(kUnknownCaption);
   std::string words;

@@ -1,5 +1,4 @@
-// What the states of a run's stations come to: labels, images and the words of a run's row. Trees and lists decide
-// here, so that a node and its row never disagree.
+// What the states of a run's stations come to: labels, images and the words of a run's row, for trees and lists alike.
 #pragma once
 
 #include <cstdint>
@@ -29,6 +28,12 @@ std::string_view StateGroupLabel(StateGroup group);
 
 // The image of a run with these stations: in progress before NOT OK before unknown before OK.
 std::string_view RunImage(const StationCounts& counts);
+
+// The same for a run in which no station may have taken part yet: that is unknown.
+std::string_view ImageOfRun(const StationCounts& counts);
+
+// The image of a process, or of a run of it, of which there is nothing to tell.
+inline constexpr std::string_view kPlainProcessImage = "Process";
 
 // What a run came to, in words: the label of the one state that all its stations are in, else how many are in each,
 // "149 OK, 1 NOT OK". Unknown while no station took part.

@@ -94,10 +94,13 @@ Place EquivalentPlace(std::string_view leftKey, std::string_view key) {
   return PlaceDownTo(key, LevelLeft(leftKey));
 }
 
-NodeId ChildAt(const TreeView& tree, NodeId parent, const PlaceStep& step) {
+std::string KeyAt(const TreeView& tree, NodeId parent, const PlaceStep& step) {
   const bool extends = parent != NodeId::kNone && step.fields.starts_with(util::kKeySeparator);
-  std::string key(extends ? tree.Key(parent) : std::string_view());
-  key.append(step.fields);
+  return std::string(extends ? tree.Key(parent) : std::string_view()).append(step.fields);
+}
+
+NodeId ChildAt(const TreeView& tree, NodeId parent, const PlaceStep& step) {
+  const std::string key = KeyAt(tree, parent, step);
   std::size_t before = 0;
   NodeId found = NodeId::kNone;
   for (const NodeId child : tree.Children(parent)) {

@@ -29,6 +29,9 @@ Place PlaceOfKey(std::string_view key);
 // selections; the place goes no deeper than the node that was left.
 Place EquivalentPlace(std::string_view leftKey, std::string_view key);
 
+// The key that a step has under `parent` (kNone = the root).
+std::string KeyAt(const widgets::TreeView& tree, widgets::NodeId parent, const PlaceStep& step);
+
 // The child of `parent` (kNone = the root) at a step; kNone when there is none. Looks through the children.
 widgets::NodeId ChildAt(const widgets::TreeView& tree, widgets::NodeId parent, const PlaceStep& step);
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "datasource/ProcessLog.h"
+#include "list/RunOutcome.h"
 #include "platform/Platform.h"
 #include "tree/NodeKey.h"
 #include "util/PublicOstrana.h"
@@ -15,7 +16,7 @@ namespace quorvel::tree {
 // Image of the process of a row: meant for stations by themselves, or not.
 inline std::string_view ProcessImage(const datasource::ProcessLogRecords& rows, std::size_t row) {
   const bool onStationsAlone = rows.bProcessOnStation[row] != 0 && rows.bProcessOnServer[row] == 0;
-  return onStationsAlone ? "ProcessStation" : "Process";
+  return onStationsAlone ? "ProcessStation" : list::kPlainProcessImage;
 }
 
 // Key of the run of a row: that of the node above it, where the run is, and its number.

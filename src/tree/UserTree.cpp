@@ -15,8 +15,9 @@ namespace {
 using list::StateGroup;
 using widgets::NodeId;
 
-// The states in the order in which the worst of them is looked for.
-constexpr StateGroup kWorstFirst[] = {StateGroup::kInProgress, StateGroup::kNotOk, StateGroup::kUnknown,
+// The states in the order in which the worst of them is looked for. Other than in a run's own image a failure comes
+// before what is still in progress: a station that is busy again has failed all the same.
+constexpr StateGroup kWorstFirst[] = {StateGroup::kNotOk, StateGroup::kInProgress, StateGroup::kUnknown,
                                       StateGroup::kOk, StateGroup::kNotExecuted};
 
 StateGroup WorstOf(const StationCounts& counts) {
@@ -109,7 +110,8 @@ void AppendRunsOfStation(const datasource::ProcessLogRecords& rows, std::int32_t
   const std::string processKey(tree.Key(process));
   tree.InBatch([&] {
     for (std::size_t row = 0; row < rowCount; ++row) {
-      const NodeId run = tree.Add(process, RunKey(processKey, rows, row), RunText(platform, rows, row), "Process");
+      const NodeId run =
+          tree.Add(process, RunKey(processKey, rows, row), RunText(platform, rows, row), list::kPlainProcessImage);
       SetProcessIcon(tree, run, list::PresenceOf(list::GroupOf(rows, row)), rows.strWaitState[row]);
       tree.SetPlaceholder(run, true);
     }

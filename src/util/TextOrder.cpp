@@ -85,7 +85,7 @@ std::size_t CommonEnd(std::string_view a, std::string_view b, std::size_t positi
 std::strong_ordering CompareSmall(std::string_view a, std::string_view b, std::size_t position) {
   const std::size_t shorter = std::min(a.size(), b.size());
   for (std::size_t at = CommonEnd(a, b, position); at < shorter; ++at) {
-    if (const auto order = SmallByteAt(a, at) <=> SmallByteAt(b, at); order != 0) return order;
+    if (const auto order = SmallByteAt(a, at) <=> SmallByteAt(b, at); std::is_neq(order)) return order;
   }
   return a.size() <=> b.size();
 }
@@ -199,7 +199,7 @@ class HeadSort {
   void SortByComparing(std::span<Head> heads, std::size_t position) {
     std::ranges::sort(heads, [&](const Head& a, const Head& b) {
       const auto order = CompareSmall(texts_[a.text], texts_[b.text], position);
-      return order != 0 ? order < 0 : texts_[a.text] < texts_[b.text];
+      return std::is_neq(order) ? std::is_lt(order) : texts_[a.text] < texts_[b.text];
     });
   }
 
@@ -220,7 +220,7 @@ class HeadSort {
 
 std::strong_ordering CompareTexts(std::string_view a, std::string_view b) {
   const auto order = CompareSmall(a, b, 0);
-  return order != 0 ? order : a <=> b;
+  return std::is_neq(order) ? order : a <=> b;
 }
 
 std::vector<std::int64_t> RankTexts(std::span<const std::string_view> texts) {

@@ -116,6 +116,8 @@ class ListView : public Control {
   // Shows the rows in another order: for each place the row that stands in `rows` there, every row once. Selection,
   // marks and changed icons go with their rows. Error 5 for another number of rows.
   void Reorder(std::vector<std::uint32_t> rows);
+  // Where an existing row stands in the source.
+  std::size_t SourceRow(std::size_t row) const { return order_.empty() ? row : order_[row]; }
 
   std::string Key(std::size_t row) const;
   // Error 9 for a column without a header too.
@@ -173,7 +175,6 @@ class ListView : public Control {
   };
 
   void RequireRow(std::size_t row) const;
-  std::size_t SourceRow(std::size_t row) const { return order_.empty() ? row : order_[row]; }
   void MoveSelection(const std::vector<std::uint32_t>& rows);
   void NoteRow(std::size_t row);
   // Outside batches: tells what is pending.

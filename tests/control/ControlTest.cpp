@@ -163,6 +163,7 @@ TEST_F(ControlTest, AListThatCannotBeReadKeepsItsColumnsAndTheNextClickWorks) {
   control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2"));
   EXPECT_EQ(controls().lvMotherList.headers().front().caption, "Name");
   EXPECT_EQ(control.p_ListCount(), 0);
+  EXPECT_EQ(platform.status, "0 element");
   EXPECT_EQ(platform.messages.size(), 1U);
   EXPECT_EQ(platform.pointers.back(), MousePointer::kDefault);
   history.failNumber = 0;
@@ -185,8 +186,79 @@ TEST_F(ControlTest, FindsTheStationAgainWhenItsStateChanged) {
   control.cmdRefresh_Click();
   const auto& tree = controls().tvMotherList;
   EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12|0|345|1|8");
-  EXPECT_THAT(history.calls, testing::Contains("GetTaskRunsByProcessLog 345 server 8")) << "one list query";
+  EXPECT_THAT(history.calls, testing::Contains("GetTaskRunsByProcessLog 345 server 8").Times(1)) << "one list query";
   EXPECT_THAT(history.calls, testing::Not(testing::Contains("GetProcessLogByProcess 12")));
+}
+
+TEST_F(ControlTest, WhoeverItCallsMayCallBack) {
+  control.m_GetLogByProcess();
+  const std::string before = Tree();
+  std::string refused;
+  history.onCall = platform.onStatus = [&] {
+    control.cmdRefresh_Click();
+    control.tvMotherList_NodeClick(Node("LPROC|30"));
+    control.tvMotherList_Expand(Node("LPROC|12|0|345|1"));
+    control.lvMotherList_DblClick();
+    try {
+      control.m_GetLogByUser();
+    } catch (const Error& error) {
+      refused = error.description();
+    }
+  };
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  EXPECT_EQ(controls().tvMotherList.ChildCount(Node("LPROC|12|0|345|2")), 2U);
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2"));
+  EXPECT_EQ(controls().lvMotherList.Key(0), "0|LPROC|12|0|345|2") << "the rows of the node that is selected";
+  control.m_GetLogByProcess();
+  EXPECT_EQ(Tree(), before);
+  EXPECT_EQ(refused, "The viewer is at work on an earlier request");
+  EXPECT_TRUE(platform.messages.empty());
+  history.onCall = platform.onStatus = nullptr;
+  control.m_GetLogByUser();
+}
+
+TEST_F(ControlTest, OfTwoTasksOfOneKeyEachRowLeadsToItsOwn) {
+  control.m_GetLogByProcess();
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  FillTasksAndSteps();
+  datasource::TaskRunRecords& tasks = history.tasks;
+  tasks.lngTaskRunId = tasks.lngTaskId = tasks.lngStationScope = test::MakeColumn<std::int32_t>({9, 9});
+  tasks.strTaskName = tasks.strTaskType = tasks.strReport = test::MakeTexts({"Twice", "Once"});
+  tasks.bNotExecuted = tasks.bWaiting = tasks.bInProgress = tasks.bResultOk = tasks.bResultNotOk =
+      test::MakeColumn<std::int16_t>({0, 0});
+  tasks.dtStartDate = tasks.dtEndDate = test::MakeColumn<double>({0, 0});
+  history.tasksCount = 2;
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2|8"));
+  control.lvMotherList_ColumnClick(2);
+  control.lvMotherList_ColumnClick(1);
+  ASSERT_EQ(controls().lvMotherList.Cell(0, 0), "Once");
+  controls().lvMotherList.SetSelection({}, 0);
+  control.lvMotherList_DblClick();
+  const auto& tree = controls().tvMotherList;
+  EXPECT_EQ(tree.Text(tree.Selected()), "Once");
+  control.cmdRefresh_Click();
+  EXPECT_EQ(tree.Text(tree.Selected()), "Once");
+}
+
+TEST_F(ControlTest, APlaceThatCouldNotBeReachedIsNotForgotten) {
+  control.m_GetLogByProcess();
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  control.tvMotherList_NodeClick(Node("LPROC|12|0|345|2|8"));
+  int until = 3;  // the tree is read, counted and released; its stations are not read
+  history.onCall = [&] {
+    if (until-- == 0) throw Error(5, "Hub", "The line is down");
+  };
+  control.cmdRefresh_Click();
+  history.onCall = nullptr;
+  const auto& tree = controls().tvMotherList;
+  EXPECT_EQ(platform.messages.size(), 1U);
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12|0|345|2") << "as far as it went";
+  EXPECT_EQ(controls().fraList.text(), "Processes (2)");
+  control.cmdRefresh_Click();
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|12|0|345|2|8");
+  control.tvMotherList_NodeClick(Node("LPROC|30"));
+  control.cmdRefresh_Click();
+  EXPECT_EQ(tree.Key(tree.Selected()), "LPROC|30") << "what the user chose since then";
 }
 
 TEST_F(ControlTest, AFailedQueryIsShownOnceAndCanBeTriedAgain) {

@@ -82,13 +82,12 @@ TEST_F(ListsTest, ARunningRunShowsFirstWhatKeepsItRunning) {
     records.strUserName = records.strIdentifier = records.strCompany = records.strReport = MakeTexts(waits);
     records.strWaitState = MakeTexts(waits);
     records.dtStartDate = records.dtEndDate = MakeColumn(std::vector<double>(waits.size()));
-    return StationsOfGroup{state, records, static_cast<std::int32_t>(waits.size())};
+    return StationsOfGroup{state, {records, static_cast<std::int32_t>(waits.size())}};
   };
-  const Rows list =
-      CurrentRunListRows({group(StateGroup::kInProgress, StationRows::kInProgress, {"To run", "Waiting com"}),
-                          {StateGroup::kUnknown, {}, 0},
-                          group(StateGroup::kNotOk, StationRows::kNotOk, {"Waiting com"})},
-                         "LPROC|1|0|1", platform);
+  const StationsOfGroup groups[] = {group(StateGroup::kInProgress, StationRows::kInProgress, {"To run", "Waiting com"}),
+                                    {StateGroup::kUnknown, {}},
+                                    group(StateGroup::kNotOk, StationRows::kNotOk, {"Waiting com"})};
+  const Rows list = CurrentRunListRows(groups, "LPROC|1|0|1", platform);
   ASSERT_EQ(list->Count(), 3U);
   const Headers headers = CurrentRunListHeaders();
   EXPECT_EQ(Row(list, 0, headers), "User 0|LPROC|1|0|1: Without population, To run, To run, In progress, , To run, , ");

@@ -182,14 +182,20 @@ TEST_F(ListPaneTest, TellsWhatTheUserAsksFor) {
 
 TEST_F(ListPaneTest, ButtonOfADoubleClickSelectsNothingInTheListThatComes) {
   Fill(20);
-  onDoubleClick = [this] { Fill(5); };
+  const QPoint belowTheNewRows = PlaceOf(15);
+  RowRanges first;
+  first.Add({0, 1});
+  onDoubleClick = [&] {
+    Fill(5);
+    list.SetSelection(first);
+  };
   QTest::mouseClick(pane.viewport(), Qt::LeftButton, {}, PlaceOf(3));
   QMouseEvent second(QEvent::MouseButtonDblClick, PlaceOf(3), pane.viewport()->mapToGlobal(PlaceOf(3)), Qt::LeftButton,
                      Qt::LeftButton, {});
   QCoreApplication::sendEvent(pane.viewport(), &second);
   DragOver(2);
-  QTest::mouseRelease(pane.viewport(), Qt::LeftButton, {}, PlaceOf(2));
-  EXPECT_TRUE(list.Selection().empty());
+  QTest::mouseRelease(pane.viewport(), Qt::LeftButton, {}, belowTheNewRows);
+  EXPECT_EQ(list.Selection(), first);
   ClickRow(4);
   QTest::mousePress(pane.viewport(), Qt::LeftButton, {}, PlaceOf(0));
   DragOver(2);
@@ -215,9 +221,9 @@ TEST_F(ListPaneTest, KeepsTheSelectedRowInSightWhenRowsChangePlaces) {
   EXPECT_EQ(pane.currentIndex().row(), 997);
   EXPECT_TRUE(pane.viewport()->rect().contains(0, pane.rowViewportPosition(997)));
   EXPECT_EQ(pane.horizontalScrollBar()->value(), 700);
-  pane.verticalScrollBar()->setValue(0);
+  pane.verticalScrollBar()->setValue(5000);
   ReverseRows();
-  EXPECT_EQ(pane.verticalScrollBar()->value(), 0) << "what was not in sight before draws nobody away";
+  EXPECT_EQ(pane.verticalScrollBar()->value(), 5000) << "what was not in sight before draws nobody away";
 }
 
 // Notes how much text the cells are painted with.
@@ -261,6 +267,24 @@ TEST_F(ListPaneTest, PaintsNoMoreOfATextThanACellCanShow) {
     EXPECT_LE(cell.data(kPaintedTextRole).toString().size(), 4000) << "and only so much is converted";
   }
   pane.setStyle(nullptr);
+}
+
+// One cell, which notes what of it is asked for.
+class AskedCell : public QAbstractListModel {
+ public:
+  int rowCount(const QModelIndex& /*parent*/) const override { return 1; }
+  QVariant data(const QModelIndex& /*index*/, int role) const override {
+    asked.push_back(role);
+    return role == kPaintedTextRole ? QVariant("painted") : QVariant();
+  }
+  mutable std::vector<int> asked;
+};
+
+TEST(ItemDelegate, NeverAsksForAWholeTextWhereAPartIsKnown) {
+  const ItemDelegate delegate;
+  const AskedCell cell;
+  EXPECT_GT(delegate.sizeHint(QStyleOptionViewItem(), cell.index(0)).width(), 10);
+  EXPECT_EQ(std::ranges::count(cell.asked, Qt::DisplayRole), 0);
 }
 
 TEST_F(ListPaneTest, DrawsTheFirstLineOfACell) {

@@ -2,8 +2,8 @@
 -- `urgency` orders the stations of a run that is in progress; of several runs the one of the lowest `weight` is shown.
 CREATE TEMP TABLE group_look (grp PRIMARY KEY, caption, icon, run_icon, urgency, weight);
 INSERT INTO group_look VALUES
-  (1, 'OK', 'User_Ok', 'ProcessOk', 5, 4), (2, 'NOT OK', 'User_NoOk', 'ProcessNONOK', 2, 2),
-  (3, 'In progress', 'User_Inprogress', 'ProcessStart', 1, 1), (4, 'Not executed', 'User_NoExecute', '', 4, 5),
+  (1, 'OK', 'User_Ok', 'ProcessOk', 5, 4), (2, 'NOT OK', 'User_NoOk', 'ProcessNONOK', 2, 1),
+  (3, 'In progress', 'User_Inprogress', 'ProcessStart', 1, 2), (4, 'Not executed', 'User_NoExecute', '', 4, 5),
   (5, 'Unknown', 'User_Undefined', 'ProcessUndefined', 3, 3);
 
 CREATE TEMP TABLE wait_look (wait_state PRIMARY KEY, caption, icon, run_icon);

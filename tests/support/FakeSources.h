@@ -147,7 +147,10 @@ class FakeProcessLog : public datasource::ProcessLog {
  public:
   explicit FakeProcessLog(FakeHistory& history) : history_(history) {}
   ~FakeProcessLog() override { history_.calls.emplace_back("release ProcessLog"); }
-  std::int32_t lngCount() const override { return count_; }
+  std::int32_t lngCount() const override {
+    if (history_.onCall) history_.onCall();
+    return count_;
+  }
   void GetProcessLogs(std::int32_t, DateValue from, DateValue to, std::int32_t state, std::int32_t process,
                       std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t& status) override {
     Ask(history_, "GetProcessLogs " + FormatFixedDateTime(from) + " " + FormatFixedDateTime(to) + " " +

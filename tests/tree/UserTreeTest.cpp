@@ -32,9 +32,11 @@ TEST(UserTree, StationsAndProcessesShowTheWorstOfTheirRows) {
       .Station(12, 2, 7, StationRows::kNotOk)
       .Station(30, 3, 7, StationRows::kUnknown)
       .Station(30, 2, 8, StationRows::kNotOk)
-      .Station(30, 1, 8, StationRows::kInProgress);
+      .Station(30, 1, 8, StationRows::kInProgress)
+      .Station(30, 2, 9, StationRows::kInProgress)
+      .Station(30, 1, 9, StationRows::kInProgress);
   widgets::TreeView tree("tvMotherList");
-  AppendUserNodes(PartsOf(stations, {"", "", "", "", "", "", "", "Waiting com"}), stations.count(), tree);
+  AppendUserNodes(PartsOf(stations, {"", "", "", "", "", "", "", "", "Waiting com", ""}), stations.count(), tree);
   EXPECT_EQ(test::TreeText(tree),
             "Without population (Lyon) [LUSR|0] User_Ok\n"
             "  Prices [LUSR|0|12] ProcessOk +\n"
@@ -42,8 +44,10 @@ TEST(UserTree, StationsAndProcessesShowTheWorstOfTheirRows) {
             "Lyon (Lyon) [LUSR|7] User_NoOk\n"
             "  Prices [LUSR|7|12] ProcessNONOK +\n"
             "  Inventory [LUSR|7|30] ProcessUndefined +\n"
-            "Lyon (Lyon) [LUSR|8] User_Inprogress\n"
-            "  Inventory [LUSR|8|30] ProcessWaitingCom +\n");
+            "Lyon (Lyon) [LUSR|8] User_NoOk\n"
+            "  Inventory [LUSR|8|30] ProcessNONOK +\n"
+            "Lyon (Lyon) [LUSR|9] User_Inprogress\n"
+            "  Inventory [LUSR|9|30] ProcessWaitingCom +\n");
 }
 
 TEST(UserTree, RunsShowTheStationsOwnOutcome) {
