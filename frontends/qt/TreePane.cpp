@@ -55,7 +55,14 @@ void TreePane::TreeReset() {
 
 void TreePane::NodesInserted(NodeId parent, std::size_t first, std::size_t count) {
   Guarded([&] {
+    const QScopedValueRollback following(following_, true);
+    // A gesture has opened the node before its children came. Rows under an open node make the view lay out all that it
+    // shows; with the node closed for the moment, it lays out these rows alone.
+    const QModelIndex top = model_.IndexOf(parent);
+    const bool isOpened = first == 0 && isExpanded(top);
+    if (isOpened) setExpanded(top, false);
     model_.Inserted(parent, first, count);
+    if (isOpened) setExpanded(top, true);
     FollowOpenChildren(parent);
   });
 }

@@ -6,7 +6,6 @@
 #include <tuple>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 #include "datasource/Column.h"
 #include "hub/sqlite/Statement.h"
@@ -18,10 +17,13 @@ class ValueBuilder {
  public:
   void Append(const Statement& rows, int column) { values_.push_back(rows.Get<T>(column)); }
   void Repeat() { values_.push_back(values_.back()); }
-  datasource::Column<T> Take() { return datasource::Column<T>(std::move(values_)); }
+  datasource::Column<T> Take() {
+    values_.shrink_to_fit();
+    return datasource::Column<T>(std::move(values_));
+  }
 
  private:
-  std::vector<T> values_;
+  datasource::GrowingArray<T> values_;
 };
 
 class TextBuilder {

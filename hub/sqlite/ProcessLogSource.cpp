@@ -68,6 +68,12 @@ class ProcessLogSource final : public SourceBase<datasource::ProcessLog, datasou
   datasource::ProcessLogDetail detail_;
 };
 
+// The statement of one process, or of all. Only the outermost loop of a statement needs to know, so one filter is
+// enough.
+Statement PrepareFor(const Database& database, std::string_view sql, std::string_view parameter, std::int32_t id) {
+  return id == kAnyId ? database.Prepare(sql) : database.Prepare(FilteredBy(parameter, sql));
+}
+
 bool IsMissing(const Database& database, std::string_view exists, std::int32_t id) {
   return id != kAnyId && !Exists(database, exists, id);
 }
@@ -84,7 +90,7 @@ void ProcessLogSource::GetProcessLogs(std::int32_t connection, DateValue dateFro
   if (IsMissing(database, kProcessExists, processId)) return;
   status = kStatusOk;
 
-  Statement rows = database.Prepare(last ? kStationsOfLastRuns : kStationsOfRuns);
+  Statement rows = PrepareFor(database, last ? kStationsOfLastRuns : kStationsOfRuns, ":process", processId);
   rows.Bind(":process", processId).Bind(":station", userId).Bind(":company", companyId);
   if (!last) rows.Bind(":from", dateFrom).Bind(":to", dateTo).Bind(":state", stateCode);
   constexpr std::size_t kColumnsOfRun = 7;
@@ -115,12 +121,18 @@ void ProcessLogSource::GetProcessLogsByName(std::int32_t connection, DateValue d
 
 void ProcessLogSource::FillRuns(const Database& database, std::int32_t processId, std::string_view processName,
                                 Period period) {
-  Statement rows = database.Prepare(kRunsWithCounts);
+  Statement rows = PrepareFor(database, kRunsWithCounts, ":process", processId);
   rows.Bind(":process", processId).Bind(":name", processName).Bind(":from", period.from).Bind(":to", period.to);
-  count_ =
-      FillColumns(rows, records_.lngProcessLogId, records_.lngProcessId, records_.strProcessName, records_.dtStartDate,
-                  records_.dtEndDate, records_.bRunOnStation, records_.lngStations, records_.lngOk, records_.lngNotOk,
-                  records_.lngInProgress, records_.lngNotExecuted, records_.lngUnknown);
+  count_ = FillColumns(rows, records_.lngProcessLogId, records_.lngProcessId, records_.strProcessName,
+                       records_.dtStartDate, records_.dtEndDate, records_.bRunOnStation, records_.lngOk,
+                       records_.lngNotOk, records_.lngInProgress, records_.lngNotExecuted, records_.lngUnknown);
+  datasource::GrowingArray<std::int32_t> stations;
+  stations.reserve(static_cast<std::size_t>(count_));
+  for (std::size_t run = 0; run < static_cast<std::size_t>(count_); ++run) {
+    stations.push_back(records_.lngOk[run] + records_.lngNotOk[run] + records_.lngInProgress[run] +
+                       records_.lngNotExecuted[run] + records_.lngUnknown[run]);
+  }
+  records_.lngStations = datasource::Column(std::move(stations));
 }
 
 void ProcessLogSource::GetProcessLogByUser(std::int32_t connection, DateValue serverFrom, DateValue serverTo,
@@ -137,7 +149,9 @@ void ProcessLogSource::GetProcessLogByUser(std::int32_t connection, DateValue se
   if (IsMissing(database, kStationExists, userId) || IsMissing(database, kProcessExists, processId)) return;
   status = kStatusOk;
 
-  Statement rows = database.Prepare(last ? kLastRunsOfStations : kRunsOfStations);
+  const std::string_view sql = last ? kLastRunsOfStations : kRunsOfStations;
+  Statement rows = userId != kAnyId ? PrepareFor(database, sql, ":station", userId)
+                                    : PrepareFor(database, sql, ":process", processId);
   rows.Bind(":station", userId).Bind(":company", companyId).Bind(":process", processId).Bind(":onStation", onStation);
   if (!last) {
     rows.Bind(":from", std::min(server.from, station.from)).Bind(":to", std::max(server.to, station.to));

@@ -31,6 +31,9 @@ class Statement {
     return false;
   }
 
+  // For the calls of SQLite itself; this statement keeps it.
+  sqlite3_stmt* handle() const { return statement_.get(); }
+
   // Makes the statement ready to be bound and run anew; parameters keep their values.
   void Reset() { sqlite3_reset(statement_.get()); }
 
@@ -86,9 +89,10 @@ inline double Statement::Get<double>(int column) const {
 // Valid until the next step.
 template <>
 inline std::string_view Statement::Get<std::string_view>(int column) const {
-  const unsigned char* const text = sqlite3_column_text(statement_.get(), column);
+  sqlite3_value* const value = sqlite3_column_value(statement_.get(), column);
+  const unsigned char* const text = sqlite3_value_text(value);
   if (text == nullptr) return {};
-  const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column));
+  const auto size = static_cast<std::size_t>(sqlite3_value_bytes(value));
   return {reinterpret_cast<const char*>(text), size};
 }
 

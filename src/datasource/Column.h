@@ -4,10 +4,11 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "datasource/GrowingArray.h"
 
 namespace quorvel::datasource {
 
@@ -22,28 +23,39 @@ template <class T>
 class Column {
  public:
   Column() = default;
-  explicit Column(std::vector<T> values) : block_(std::make_shared<const std::vector<T>>(std::move(values))) {}
+  explicit Column(std::vector<T> values) { Hold(std::move(values)); }
+  explicit Column(GrowingArray<T> values) { Hold(std::move(values)); }
 
-  std::size_t size() const { return block_ ? block_->size() : 0; }
+  std::size_t size() const { return values().size(); }
   // Valid as long as this column or a copy of it lives.
-  std::span<const T> values() const { return block_ ? std::span<const T>(*block_) : std::span<const T>(); }
-  const T& operator[](std::size_t row) const { return (*block_)[row]; }
+  std::span<const T> values() const { return block_ ? values_ : std::span<const T>(); }
+  const T& operator[](std::size_t row) const { return values_[row]; }
 
  private:
-  std::shared_ptr<const std::vector<T>> block_;
+  template <class Block>
+  void Hold(Block&& values) {
+    auto block = std::make_shared<const Block>(std::forward<Block>(values));
+    values_ = std::span(block->data(), block->size());
+    block_ = std::move(block);
+  }
+
+  std::shared_ptr<const void> block_;
+  std::span<const T> values_;  // of the block
 };
 
-// One text per row; equal texts are stored once. Every text is valid UTF-8.
+// One text per row; texts that repeat are stored once. Every text is valid UTF-8.
 class TextColumn {
  public:
-  // The distinct texts, end to end in one arena, and which of them each row shows.
+  // The stored texts, end to end in one arena, and which of them each row shows.
   struct Block {
-    std::string arena;
-    std::vector<std::size_t> starts{0};  // text i is arena[starts[i], starts[i + 1])
-    std::vector<std::uint32_t> rows;     // index of the row's text
+    Block() { starts.push_back(0); }
+
+    GrowingArray<char> arena;
+    GrowingArray<std::size_t> starts;  // text i is arena[starts[i], starts[i + 1])
+    GrowingArray<std::uint32_t> rows;  // index of the row's text
 
     std::string_view text(std::uint32_t index) const {
-      return std::string_view(arena).substr(starts[index], starts[index + 1] - starts[index]);
+      return {arena.data() + starts[index], starts[index + 1] - starts[index]};
     }
   };
 
@@ -53,9 +65,10 @@ class TextColumn {
   std::size_t size() const { return block_ ? block_->rows.size() : 0; }
   // Valid as long as this column or a copy of it lives.
   std::string_view operator[](std::size_t row) const { return block_->text(block_->rows[row]); }
-  // Index into the distinct texts, per row: equal numbers mean equal texts.
+  // Index into the stored texts, per row: equal numbers mean equal texts. In a column whose texts hardly ever repeat,
+  // equal texts may have several numbers.
   std::span<const std::uint32_t> rows() const {
-    return block_ ? std::span<const std::uint32_t>(block_->rows) : std::span<const std::uint32_t>();
+    return block_ ? std::span(block_->rows.data(), block_->rows.size()) : std::span<const std::uint32_t>();
   }
 
  private:
@@ -66,19 +79,37 @@ class TextColumn {
 class TextColumnBuilder {
  public:
   void Reserve(std::size_t rows) { block_.rows.reserve(rows); }
-  // Bytes that are not UTF-8 become the replacement character. std::length_error beyond 2^31 distinct texts.
-  void Append(std::string_view text);
+  // Bytes that are not UTF-8 become the replacement character. `text` must not be one of this builder.
+  // std::length_error beyond 2^31 stored texts.
+  void Append(std::string_view text) {
+    // Rows arrive grouped, so the text before is the likeliest.
+    if (IsLast(text)) {
+      Repeat();
+    } else {
+      AppendOther(text);
+    }
+  }
   // The text of the row before once more. There must be one.
   void Repeat() { block_.rows.push_back(block_.rows.back()); }
   // The column; the builder is empty again.
   TextColumn Take();
 
  private:
-  std::uint32_t IndexOf(std::string_view text);
-  void Grow();
+  // Texts in order mostly differ at their ends.
+  bool IsLast(std::string_view text) const {
+    if (block_.rows.empty()) return false;
+    const std::string_view last = block_.text(block_.rows.back());
+    return text.size() == last.size() && (text.empty() || (text.back() == last.back() && text == last));
+  }
+  void AppendOther(std::string_view text);
+  std::size_t Stored() const { return block_.starts.size() - 1; }
+  std::uint32_t* SlotOf(std::string_view text);
+  std::uint32_t Store(std::string_view text);
+  void MakeRoom();
 
   TextColumn::Block block_;
-  std::vector<std::uint32_t> slots_;  // open addressing by hash: index of a distinct text plus 1, 0 = free
+  std::vector<std::uint32_t> slots_;  // open addressing by hash: index of a stored text plus 1, 0 = free
+  bool looksForRepeats_ = true;
 };
 
 }  // namespace quorvel::datasource

@@ -92,7 +92,7 @@ class StationRunRows final : public AnyRunRows {
   }
 };
 
-constexpr widgets::Twips kStatusWidth = 2600;
+constexpr widgets::Twips kStatusWidth = 3400;
 constexpr widgets::Twips kWideNumber = 1300;
 
 widgets::ColumnHeader DurationHeader() {

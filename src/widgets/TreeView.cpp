@@ -262,7 +262,8 @@ void TreeView::NoteRemoved(NodeId parent, std::vector<NodeId> children) {
 }
 
 void TreeView::NoteChanged(NodeId node) {
-  if (pending_.structure == Pending::Structure::kReset) return;
+  // A new node is told as it stands when the batch ends.
+  if (pending_.structure == Pending::Structure::kReset || IsInPendingInsertion(node)) return;
   if (pending_.changed.empty() || pending_.changed.back() != node) pending_.changed.push_back(node);
 }
 

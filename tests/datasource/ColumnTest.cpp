@@ -45,6 +45,42 @@ TEST(ColumnTest, EqualTextsAreStoredOnce) {
   EXPECT_EQ(column[0], "text 0");
 }
 
+// Beyond some ten thousand texts only those are looked for that do repeat; every row keeps its text either way.
+TEST(ColumnTest, TextsThatHardlyEverRepeatAreKeptToo) {
+  constexpr std::size_t kRows = 60'000;
+  TextColumnBuilder differing;
+  TextColumnBuilder repeating;
+  const auto text = [](std::size_t row) {
+    return row % 1000 == 0 ? "bad \xFF " : "text " + std::to_string(row / 2 * 2);
+  };
+  for (std::size_t row = 0; row < kRows; ++row) {
+    differing.Append(std::to_string(row));
+    repeating.Append(text(row * 3 % 9'000));
+  }
+  differing.Repeat();
+  differing.Append("");
+  const TextColumn all = differing.Take();
+  const TextColumn few = repeating.Take();
+  ASSERT_EQ(all.size(), kRows + 2);
+  for (std::size_t row = 0; row < kRows; ++row) {
+    ASSERT_EQ(all[row], std::to_string(row));
+    ASSERT_EQ(few[row], ReplaceInvalidUtf8(text(row * 3 % 9'000)));
+  }
+  EXPECT_EQ(all[kRows], all[kRows - 1]);
+  EXPECT_EQ(all[kRows + 1], "");
+  const std::set<std::uint32_t> stored(few.rows().begin(), few.rows().end());
+  EXPECT_LT(stored.size(), 9'000U / 3 + 1);
+
+  TextColumnBuilder twice;
+  for (std::size_t row = 0; row < kRows; ++row) twice.Append(std::to_string(row / 2));
+  twice.Append("0");
+  EXPECT_EQ(twice.Take().rows().back(), 0U) << "a text of long ago is found where texts do repeat";
+
+  // The builder looks for repeats again.
+  for (int row = 0; row < 4; ++row) differing.Append(row % 2 == 0 ? "one" : "other");
+  EXPECT_EQ(differing.Take().rows().back(), 1U);
+}
+
 TEST(ColumnTest, CopiesShareTheBlockAndOutliveItsMaker) {
   Column<std::int32_t> copy;
   EXPECT_EQ(copy.size(), 0U);
@@ -55,6 +91,9 @@ TEST(ColumnTest, CopiesShareTheBlockAndOutliveItsMaker) {
     EXPECT_EQ(copy.values().data(), made.values().data());
   }
   EXPECT_EQ(copy[2], 3);
+  const Column<std::int32_t> taken = std::move(copy);
+  EXPECT_EQ(copy.size(), 0U);  // NOLINT(bugprone-use-after-move): a column that was moved from is an empty one
+  EXPECT_EQ(taken.values().back(), 3);
   EXPECT_EQ(TextColumn().size(), 0U);
 }
 

@@ -8,8 +8,7 @@
 
 #include "datasource/Contract.h"
 #include "hub/QueryCases.h"
-#include "hub/RecordHub.h"
-#include "support/SmallHistory.h"
+#include "hub/SqliteInstallation.h"
 
 namespace quorvel::test {
 namespace {
@@ -25,17 +24,6 @@ struct Implementation {
   const char* name;
   std::unique_ptr<Installation> (*install)();
   std::span<const Gap> gaps;
-};
-
-class SqliteInstallation final : public Installation {
- public:
-  datasource::RecordSourceFactory& Factory() override { return hub_; }
-  std::int32_t Connection() const override { return connection_; }
-
- private:
-  SmallHistory history_;
-  hub::RecordHub hub_;
-  std::int32_t connection_ = hub_.OpenConnection(history_.url());
 };
 
 // Their tables come with their views.

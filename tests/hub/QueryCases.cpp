@@ -174,6 +174,9 @@ void CheckGetProcessLogByUser(Installation& at) {
   EXPECT_THAT(ask({.state = 4, .serverFrom = 0}), ElementsAre(102, 105, 106, 101, 104, 101, 101, 100));
   EXPECT_THAT(ask({.state = 4, .onStation = 1}), ElementsAre(105, 104));
   EXPECT_THAT(ask({.process = kDeploy, .user = kBeta}), ElementsAre(101, 100));
+  EXPECT_THAT(ask({.process = kDeploy}), ElementsAre(101, 100, 101, 100, 101, 100, 100));
+  EXPECT_THAT(ask({.state = 4, .process = kDeploy}), ElementsAre(101, 101, 101, 100));
+  EXPECT_THAT(ask({.state = 4, .process = kDeploy, .user = kBeta}), ElementsAre(101));
   EXPECT_THAT(ask({.company = kBolt}), ElementsAre(101, 100));
   EXPECT_THAT(ask({.onStation = 1}), ElementsAre(104));
   EXPECT_THAT(ask({.user = kBeta, .onStation = 0}), ElementsAre(101, 100));

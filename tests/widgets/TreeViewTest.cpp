@@ -47,9 +47,9 @@ TEST(TreeView, TellsABatchOnceAndOnlyWhatTheObserverCannotKnow) {
     tree.SetNodeText(root, "Other");
   });
   EXPECT_EQ(std::exchange(listener.heard, ""), "reset ");
-  // Children of a node that is itself new come with it.
+  // Children of a node that is itself new come with it, and so does what became of the new ones.
   tree.InBatch([&] {
-    for (int i = 0; i < 3; ++i) tree.Add(tree.Add(root, "c", "Child", ""), "g", "Grandchild", "");
+    for (int i = 0; i < 3; ++i) tree.SetPlaceholder(tree.Add(tree.Add(root, "c", "Child", ""), "g", "", ""), true);
     tree.SetExpanded(root, true);
   });
   EXPECT_EQ(std::exchange(listener.heard, ""), "inserted 0+3 opened ");
