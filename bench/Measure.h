@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -26,7 +27,7 @@ inline double Median(std::vector<double> values) {
 
 // Two ways of one job, timed in turn so that a drift of the machine meets both.
 struct Comparison {
-  double measured = 0;  // medians, in seconds
+  double measured = 0;  // medians, in seconds; or bytes
   double base = 0;
 };
 
@@ -43,12 +44,27 @@ Comparison Compare(Measured&& measured, Base&& base) {
   return {Median(measuredSeconds), Median(baseSeconds)};
 }
 
-// Prints a row of the table; tells whether the ratio keeps its limit.
-inline bool Report(std::string_view what, const Comparison& comparison, double limit) {
+// How the numbers of a row are shown.
+struct Unit {
+  double scale;
+  const char* name;
+};
+inline constexpr Unit kMilliseconds{1e3, "ms"};
+inline constexpr Unit kMegabytes{1e-6, "MB"};
+
+// Prints a row of the table; tells whether the ratio keeps its limit. Without a limit it is there to compare with.
+inline bool Report(std::string_view what, const Comparison& comparison, std::optional<double> limit,
+                   Unit unit = kMilliseconds) {
   const double ratio = comparison.measured / comparison.base;
-  const bool kept = ratio <= limit;
-  std::printf("| %-58.*s | %8.1f ms | %8.1f ms | %5.2f | %5.2f | %s |\n", static_cast<int>(what.size()), what.data(),
-              comparison.measured * 1e3, comparison.base * 1e3, ratio, limit, kept ? "kept" : "EXCEEDED");
+  const bool kept = !limit || ratio <= *limit;
+  std::printf("| %-65.*s | %8.1f %s | %8.1f %s | %5.2f | ", static_cast<int>(what.size()), what.data(),
+              comparison.measured * unit.scale, unit.name, comparison.base * unit.scale, unit.name, ratio);
+  if (limit) {
+    std::printf("%5.2f | %s |\n", *limit, kept ? "kept" : "EXCEEDED");
+  } else {
+    std::printf("      |      |\n");
+  }
+  std::fflush(stdout);
   return kept;
 }
 

@@ -1,0 +1,65 @@
+// The history viewer as a user has it, off-screen: the real control, hub and Qt front end on a history.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+#include "Painting.h"
+#include "control/ucProcessLog.h"
+#include "hub/RecordHub.h"
+#include "platform/StandardPlatform.h"
+#include "qt/ProcessLogWidget.h"
+
+namespace quorvel::bench {
+
+// A fixed present, and nobody to read a message: one ends the benchmark.
+class BenchPlatform : public StandardPlatform {
+ public:
+  void ShowMessage(std::string_view text, std::string_view title) override;
+  void SetMousePointer(MousePointer /*pointer*/) override {}
+  void ClearClipboard() override {}
+  void SetClipboardText(std::string_view /*text*/) override {}
+  void OpenFile(const std::filesystem::path& /*file*/) override {}
+  void SetHostStatusText(std::string_view /*text*/) override {}
+  DateValue Now() const override { return DateFromCivil({2026, 11, 20, 12, 0, 0}); }
+};
+
+// What is timed begins with the gesture and ends when the pane that it fills has painted.
+class Viewer {
+ public:
+  // Shows the last executions; the options ask for everything since 2025-11-01.
+  explicit Viewer(const std::filesystem::path& history);
+
+  // Build the tree of all runs, by process or by station.
+  double ShowProcesses();
+  double ShowUsers();
+
+  // By the gestures of the keyboard: opening a node by its expander, going to a node.
+  double Open(widgets::NodeId node);
+  double Click(widgets::NodeId node);
+
+  // Opens all roots.
+  void OpenRoots();
+
+  // Sorts the list by a column, counted from 1.
+  double SortBy(std::size_t column);
+
+  ucProcessLog& control() { return widget_.control(); }
+  const widgets::TreeView& tree() { return control().controls().tvMotherList; }
+  // The node at these rows, from the roots down.
+  widgets::NodeId NodeAt(std::initializer_list<std::size_t> rows);
+  DateValue from() { return ReadOptions(control().controls(), StateFilter::kAll).start; }
+  DateValue to() { return ReadOptions(control().controls(), StateFilter::kAll).end; }
+
+ private:
+  double UntilPainted(PaintCounter& paints, const std::function<void()>& gesture);
+
+  BenchPlatform platform_;
+  hub::RecordHub hub_;
+  qt::ProcessLogWidget widget_;
+  PaintCounter treePaints_;
+  PaintCounter listPaints_;
+};
+
+}  // namespace quorvel::bench
