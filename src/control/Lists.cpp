@@ -116,6 +116,7 @@ void ucProcessLog::lvMotherList_NodeCurrentProcess(NodeId node) {
     PrepareList(list::CurrentRunListHeaders());
     const std::int32_t run = tree::ReadRunKey(key);
     std::vector<list::StationsOfGroup> groups;
+    groups.reserve(list::kCurrentRunGroups.size());
     for (const list::StateGroup group : list::kCurrentRunGroups) {
       groups.push_back({group, AskStations(run, static_cast<std::int32_t>(group))});
     }
