@@ -17,8 +17,23 @@ enum class MousePointer : std::int32_t { kDefault = 0, kHourglass = 11 };
 // The two named date formats of the regional settings.
 enum class DateFormat : std::int32_t { kGeneralDate = -1, kShortDate = 1 };
 
-// The family of the operating system, in the codes of `WindowAPI`.
-enum class SystemFamily : std::int32_t { kWin32s = 100, kWindows9x = 200, kWindowsNt = 500 };
+// The families of operating systems that a version record tells apart.
+enum class SystemPlatform : std::uint32_t { kWin32s = 0, kWindows9x = 1, kWindowsNt = 2 };
+
+// The version record of an operating system.
+struct SystemVersion {
+  SystemPlatform platform = SystemPlatform::kWindowsNt;
+  std::uint32_t majorVersion = 0;
+  std::uint32_t minorVersion = 0;
+  std::uint32_t build = 0;
+  std::string servicePack;  // "Service Pack 1", or a letter; empty when there is none
+};
+
+// A user, with the domain or host that knows the name.
+struct Account {
+  std::string domain;
+  std::string user;
+};
 
 // All calls come from the user-interface thread. Texts are UTF-8. A call that cannot be done raises an Error.
 class Platform {
@@ -37,6 +52,8 @@ class Platform {
 
   // Opens a file with the desktop's own program for it. Error 53 when it does not exist, 5 when no program opens it.
   virtual void OpenFile(const std::filesystem::path& file) = 0;
+  // Whether a file, or a folder, is there; not so where the system does not say.
+  virtual bool FileExists(const std::filesystem::path& file) const = 0;
 
   // Writes `text` into the first panel of the host's status bar `stStatusBar`. Error 438 when the host has none.
   virtual void SetHostStatusText(std::string_view text) = 0;
@@ -60,9 +77,12 @@ class Platform {
   // Text in the encoding that plain text files have here: UTF-8 off Windows, the ANSI code page on it.
   virtual std::string ToFileText(std::string_view text) const = 0;
 
-  virtual SystemFamily OperatingSystem() const = 0;
-  // The interactive user, qualified by domain or host: "DOMAIN\user". Empty when the system does not say.
-  virtual std::string CurrentAccount() const = 0;
+  // What the system says of itself and of the interactive user; what that means is for `WindowAPI` to say. A system
+  // without a version record counts as the NT family, all numbers 0. Users are nothing when the system does not say.
+  virtual SystemVersion OperatingSystem() const = 0;
+  virtual std::optional<Account> CurrentAccount() const = 0;
+  // The same user's name without its domain, as the families before NT know it.
+  virtual std::optional<std::string> CurrentUser() const = 0;
 };
 
 }  // namespace quorvel

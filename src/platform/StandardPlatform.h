@@ -15,15 +15,18 @@ class StandardPlatform : public Platform {
   std::string FormatDate(DateValue date, DateFormat format) const override;
   std::optional<DateValue> ParseDate(std::string_view text) const override;
   bool HasFixedDates() const override { return true; }
+  bool FileExists(const std::filesystem::path& file) const override;
   // $TMPDIR where it names a folder, else the system's temporary folder.
   std::filesystem::path TemporaryFolder() const override;
   void DeleteFile(const std::filesystem::path& file) override;
   void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) override;
   std::string ToFileText(std::string_view text) const override;
-  // Systems without a Windows version record count as the NT family.
-  SystemFamily OperatingSystem() const override;
-  // HOST\user off Windows.
-  std::string CurrentAccount() const override;
+  // Error 5 when Windows does not give its version.
+  SystemVersion OperatingSystem() const override;
+  // On Windows what the account library "OstranaAccount.dll" says, from the program's or the system's folder; nothing
+  // without it. Elsewhere the host's name and the user's.
+  std::optional<Account> CurrentAccount() const override;
+  std::optional<std::string> CurrentUser() const override;
 };
 
 }  // namespace quorvel
