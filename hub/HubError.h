@@ -11,7 +11,7 @@ namespace quorvel::hub {
 
 // Each description names the file, says what is wrong and, where SQLite said so, ends with its text and code.
 inline constexpr std::int32_t kNotAHistory = ComponentError(21);     // another kind of file, or of database
-inline constexpr std::int32_t kNewerHistory = ComponentError(22);    // written by a later version of this program
+inline constexpr std::int32_t kOtherVersion = ComponentError(22);    // a history of an older or newer schema
 inline constexpr std::int32_t kHistoryLocked = ComponentError(23);   // another program holds it
 inline constexpr std::int32_t kHistoryDamaged = ComponentError(24);  // truncated or overwritten
 inline constexpr std::int32_t kHistoryFailed = ComponentError(25);   // any other refusal of SQLite

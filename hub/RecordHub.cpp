@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <string>
 
+#include "datasource/AlarmsLog.h"
 #include "datasource/CommandLog.h"
 #include "datasource/Current.h"
 #include "datasource/Labels.h"
 #include "datasource/ProcessLog.h"
 #include "datasource/Quorvel.h"
+#include "datasource/Saves.h"
 #include "datasource/StepLog.h"
+#include "datasource/TaskSchedulerLog.h"
+#include "datasource/UsersImport.h"
 #include "hub/sqlite/Connections.h"
 #include "hub/sqlite/HistoryFile.h"
 #include "hub/sqlite/RecordSources.h"
@@ -29,6 +33,10 @@ constexpr SourceClass kClasses[] = {
     {datasource::Quorvel::kClassIdentifier, CreateTaskRuns},
     {datasource::StepLog::kClassIdentifier, CreateStepLog},
     {datasource::CommandLog::kClassIdentifier, CreateCommandLog},
+    {datasource::AlarmsLog::kClassIdentifier, CreateAlarmsLog},
+    {datasource::Saves::kClassIdentifier, CreateSaves},
+    {datasource::UsersImport::kClassIdentifier, CreateUsersImport},
+    {datasource::TaskSchedulerLog::kClassIdentifier, CreateTaskSchedulerLog},
     {datasource::Labels::kClassIdentifier, CreateLabels},
     {datasource::Current::kClassIdentifier, CreateCurrent},
 };

@@ -32,8 +32,8 @@ class RecordHub : public datasource::RecordSourceFactory {
   // Gives the connection index: from 1, never used twice.
   //
   // Error 5: the URL is of no known kind. 53: there is no such file. 70: the system refuses to open it. 75: it cannot
-  // be opened for another reason. 57: it cannot be read. The numbers of HubError.h: it is not a history, is one of a
-  // newer schema, is locked (after half a second of waiting) or is damaged. The file stays as it was; nothing is
+  // be opened for another reason. 57: it cannot be read. The numbers of HubError.h: it is not a history, is one of
+  // another schema, is locked (after half a second of waiting) or is damaged. The file stays as it was; nothing is
   // created.
   std::int32_t OpenConnection(std::string_view url);
 

@@ -47,10 +47,10 @@ void RequireHistory(const Database& database) {
   if (BigEndian(header, kApplicationIdAt) != kHistoryApplicationId || version == 0) {
     Refuse(kNotAHistory, database, "is not a history: it is a database of another program");
   }
-  if (version > kHistoryVersion) {
-    Refuse(kNewerHistory, database,
-           "is of a newer version: its schema is " + std::to_string(version) + ", known is " +
-               std::to_string(kHistoryVersion));
+  if (version != kHistoryVersion) {
+    Refuse(kOtherVersion, database,
+           std::string(version > kHistoryVersion ? "is of a newer" : "is of an older") + " version: its schema is " +
+               std::to_string(version) + ", known is " + std::to_string(kHistoryVersion));
   }
 }
 

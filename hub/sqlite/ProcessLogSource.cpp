@@ -1,10 +1,9 @@
 // Runs of processes and the stations that took part in them, over SQLite.
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 #include "datasource/ProcessLog.h"
 #include "hub/sqlite/FillColumns.h"
+#include "hub/sqlite/Filters.h"
 #include "hub/sqlite/Queries.h"
 #include "hub/sqlite/RecordSources.h"
 #include "hub/sqlite/SourceBase.h"
@@ -16,21 +15,9 @@ using datasource::Flag;
 using datasource::kFalse;
 using datasource::kTrue;
 
-// Codes of the state filter that mean more than "runs of this outcome".
-constexpr std::int32_t kLastExecution = 4;
-
 // Outcomes of a run, as the view run_outcome gives them.
 constexpr std::int32_t kOutcomeOk = 1;
 constexpr std::int32_t kOutcomeInProgress = 3;
-
-struct Period {
-  DateValue from;
-  DateValue to;
-
-  bool valid() const { return std::isfinite(from) && std::isfinite(to) && from != 0 && to != 0 && from <= to; }
-};
-
-constexpr Period kAlways = {-std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
 
 // Where a run is, as GetProcessLogByUser filters it.
 constexpr std::int32_t kOnServer = 0;
@@ -68,16 +55,6 @@ class ProcessLogSource final : public SourceBase<datasource::ProcessLog, datasou
   datasource::ProcessLogDetail detail_;
 };
 
-// The statement of one process, or of all. Only the outermost loop of a statement needs to know, so one filter is
-// enough.
-Statement PrepareFor(const Database& database, std::string_view sql, std::string_view parameter, std::int32_t id) {
-  return id == kAnyId ? database.Prepare(sql) : database.Prepare(FilteredBy(parameter, sql));
-}
-
-bool IsMissing(const Database& database, std::string_view exists, std::int32_t id) {
-  return id != kAnyId && !Exists(database, exists, id);
-}
-
 void ProcessLogSource::GetProcessLogs(std::int32_t connection, DateValue dateFrom, DateValue dateTo,
                                       std::int32_t stateCode, std::int32_t processId, std::int32_t userId,
                                       std::int32_t companyId, std::int32_t /*reserved1*/, std::int32_t /*reserved2*/,
@@ -91,7 +68,7 @@ void ProcessLogSource::GetProcessLogs(std::int32_t connection, DateValue dateFro
   status = kStatusOk;
 
   Statement rows = PrepareFor(database, last ? kStationsOfLastRuns : kStationsOfRuns, ":process", processId);
-  rows.Bind(":process", processId).Bind(":station", userId).Bind(":company", companyId);
+  rows.Bind(":station", userId).Bind(":company", companyId);
   if (!last) rows.Bind(":from", dateFrom).Bind(":to", dateTo).Bind(":state", stateCode);
   constexpr std::size_t kColumnsOfRun = 7;
   count_ = FillColumns<kColumnsOfRun>(
@@ -122,7 +99,7 @@ void ProcessLogSource::GetProcessLogsByName(std::int32_t connection, DateValue d
 void ProcessLogSource::FillRuns(const Database& database, std::int32_t processId, std::string_view processName,
                                 Period period) {
   Statement rows = PrepareFor(database, kRunsWithCounts, ":process", processId);
-  rows.Bind(":process", processId).Bind(":name", processName).Bind(":from", period.from).Bind(":to", period.to);
+  rows.Bind(":name", processName).Bind(":from", period.from).Bind(":to", period.to);
   count_ = FillColumns(rows, records_.lngProcessLogId, records_.lngProcessId, records_.strProcessName,
                        records_.dtStartDate, records_.dtEndDate, records_.bRunOnStation, records_.lngOk,
                        records_.lngNotOk, records_.lngInProgress, records_.lngNotExecuted, records_.lngUnknown);

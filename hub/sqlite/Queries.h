@@ -1,12 +1,11 @@
-// The statements that the record sources send. Identifiers of -1 do not filter; FilteredBy makes of each the statement
-// for a given one.
+// The statements about runs, their stations, tasks, steps and commands, and about settings. Identifiers of -1 do not
+// filter; FilteredBy makes of each the statement for a given one (see Filters.h).
 //
 // Every order comes from the indexes in history.sql: processes and stations by name are the outer loops (CROSS JOIN
 // fixes that), runs and parts the inner ones, so nothing that grows with the history is scanned or sorted. A test holds
 // every statement that the sources send to that.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 namespace quorvel::hub {
@@ -179,16 +178,5 @@ inline constexpr std::string_view kRequestStop = R"sql(
 inline constexpr std::string_view kNotifyStop = R"sql(
   UPDATE stop_request SET server_name = :server, notified_date = julianday('now', 'localtime') - 2415018.5
   WHERE process_run_id = :run)sql";
-
-// The statement for a given identifier, in a parameter (":station") whose -1 would not filter. SQLite then finds the
-// one thing by its key, where it otherwise looks at one after the other.
-inline std::string FilteredBy(std::string_view parameter, std::string_view sql) {
-  const std::string choice = std::string(parameter) + " = -1 OR ";
-  std::string filtered(sql);
-  for (std::size_t at = filtered.find(choice); at != std::string::npos; at = filtered.find(choice, at)) {
-    filtered.erase(at, choice.size());
-  }
-  return filtered;
-}
 
 }  // namespace quorvel::hub

@@ -14,9 +14,6 @@ inline constexpr std::int32_t kStatusOk = 0;
 inline constexpr std::int32_t kStatusMissing = 1;
 inline constexpr std::int32_t kStatusNoPeriod = 2;
 
-// An identifier that does not filter.
-inline constexpr std::int32_t kAnyId = -1;
-
 // True when the statement, which takes one identifier as ":id", answers with a row.
 inline bool Exists(const Database& database, std::string_view sql, std::int32_t id) {
   return database.Prepare(sql).Bind(":id", id).Step();

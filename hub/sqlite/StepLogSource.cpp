@@ -2,6 +2,7 @@
 #include "datasource/StepLog.h"
 
 #include "hub/sqlite/FillColumns.h"
+#include "hub/sqlite/Filters.h"
 #include "hub/sqlite/Queries.h"
 #include "hub/sqlite/RecordSources.h"
 #include "hub/sqlite/SourceBase.h"

@@ -1,6 +1,7 @@
 // Runs of the tasks inside one process run, over SQLite.
 #include "datasource/Quorvel.h"
 #include "hub/sqlite/FillColumns.h"
+#include "hub/sqlite/Filters.h"
 #include "hub/sqlite/Queries.h"
 #include "hub/sqlite/RecordSources.h"
 #include "hub/sqlite/SourceBase.h"

@@ -7,7 +7,7 @@ namespace quorvel::datasource {
 
 struct AlarmsLogRecords {
   Column<std::int32_t> lngAlarmId;
-  Column<std::int32_t> lngOwnerId;
+  Column<std::int32_t> lngOwnerId;  // the station that the alarm is about, 0 = none
   TextColumn strOwnerName;
   Column<DateValue> dtDate;
   Column<std::int32_t> lngSeverity;
@@ -43,12 +43,13 @@ class AlarmsLog : public RecordSource {
  public:
   static constexpr std::string_view kClassIdentifier = "clRecordHub.AlarmsLog";
 
-  // Alarms by owner name, newest first. Status 1: alarmId does not exist.
+  // Alarms by owner name, newest first; alarmId: one alarm, -1 all. Status 1: alarmId does not exist.
   virtual void GetAlarms(std::int32_t connection, std::int32_t alarmId, std::int32_t reserved,
                          std::int32_t& status) = 0;
   virtual void CloseAlarms(std::int32_t connection) = 0;
 
-  // Alarms of one day, newest first. state: 0 active, 1 acknowledged, -1 both.
+  // Alarms of one day, newest first; day 0: of every day, and those without a date. state: 0 active, 1 acknowledged,
+  // -1 both. Status 2: there is no such day.
   virtual void GetAlarmsByDay(std::int32_t connection, DateValue day, std::int32_t ownerId, std::int32_t state,
                               std::int32_t& status) = 0;
   virtual void CloseAlarmsByDay(std::int32_t connection) = 0;

@@ -53,13 +53,15 @@ class CommandLog : public RecordSource {
  public:
   static constexpr std::string_view kClassIdentifier = "clRecordHub.CommandLog";
 
-  // Connections that began in dateFrom <= start < dateTo, newest first. stateCode: 0 all, 1 OK, 2 error, 4 the newest
-  // of each station. failedOnly non-zero: failed ones alone. Status 2: the period is none.
+  // Connections that began in dateFrom <= start < dateTo, newest first. stateCode: 0 all, 1 OK, 2 error, 3 in progress,
+  // 5 unknown, 4 the newest of each station, as far as it is in the period and passes failedOnly; 0 and 0 are then any
+  // time. failedOnly non-zero: failed ones alone. Status 2: the period is none.
   virtual void GetCommunications(std::int32_t connection, DateValue dateFrom, DateValue dateTo, std::int32_t stateCode,
                                  std::int32_t userId, std::int32_t failedOnly, std::int32_t& status) = 0;
   virtual void CloseCommunications(std::int32_t connection) = 0;
 
-  // The days that have connections, newest first, with their number. Status 2: the period is none.
+  // The days that have connections, newest first, with their number; the filters as above. Status 2: the period is
+  // none.
   virtual void GetCommunicationsByMonth(std::int32_t connection, DateValue dateFrom, DateValue dateTo,
                                         std::int32_t stateCode, std::int32_t userId, std::int32_t& status) = 0;
   virtual void CloseCommunicationsByMonth(std::int32_t connection) = 0;

@@ -12,6 +12,11 @@ constexpr std::string_view kConcurrentUpdateText =
     "Update impossible at this moment because another user is modifying the same data.\r\nPlease try again later.";
 constexpr std::string_view kErrorType = "E";
 
+std::string& HelpFile() {
+  static thread_local std::string path;
+  return path;
+}
+
 std::string Chain(std::string_view label, std::string_view source) {
   std::string chain(label);
   chain.append(kLineEnd).append("\t").append(source);
@@ -30,7 +35,12 @@ std::string MessageText(std::int32_t number, std::string_view label, std::string
 
 void PropagateError(std::string_view label) {
   const Error error = CurrentError();
-  throw Error(error.number(), Chain(label, error.source()), error.description(), error.helpFile(), error.helpContext());
+  throw Error(error.number(), Chain(label, error.source()), error.description(),
+              error.helpFile().empty() ? HelpFile() : error.helpFile(), error.helpContext());
+}
+
+void SetHelpFile(std::string_view path) {
+  HelpFile() = path;
 }
 
 void ErrorsProcess::ProcessError(std::int32_t number, std::string_view label, std::string_view description) noexcept {

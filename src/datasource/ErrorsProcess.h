@@ -14,6 +14,9 @@ namespace quorvel::datasource {
 // exception is handled; anything that is not an Error yet becomes one here (see CurrentError).
 [[noreturn]] void PropagateError(std::string_view label);
 
+// The help file that PropagateError gives to errors without one, in this thread; "" = none.
+void SetHelpFile(std::string_view path);
+
 class ErrorsProcess {
  public:
   // `platform` must outlive this object.

@@ -12,7 +12,7 @@ struct SavesRecords {
   TextColumn strName;  // of the backup; of the file in GetSaveFiles
   Column<DateValue> dtDate;
   Column<std::int32_t> lngSizeKb;
-  TextColumn strPath;
+  TextColumn strPath;  // the folder that the file was taken from
   Column<Flag> bResultOk;
 
   // Calls visit(name, column) for each column, in member order.
@@ -33,13 +33,14 @@ class Saves : public RecordSource {
  public:
   static constexpr std::string_view kClassIdentifier = "clRecordHub.Saves";
 
-  // Backups by station name, newest first. onStation: 0 of the server, 1 of stations.
+  // Backups of dateFrom <= date < dateTo by station name, newest first. onStation: 0 of the server, 1 of stations.
+  // Status 2: the period is none.
   virtual void GetSaves(std::int32_t connection, std::int32_t onStation, std::int32_t userId, DateValue dateFrom,
                         DateValue dateTo, std::int32_t& status) = 0;
   virtual void CloseSaves(std::int32_t connection) = 0;
 
-  // The files of one backup by name; failedOnly non-zero: failed ones alone; nameFilter "" = all, else a part of the
-  // name. Status 1: the backup does not exist.
+  // The files of one backup by name; failedOnly non-zero: those whose result is not true alone; nameFilter "" = all,
+  // else a part of the name, without regard to the case of A to Z. Status 1: the backup does not exist.
   virtual void GetSaveFiles(std::int32_t connection, std::int32_t saveId, std::int32_t failedOnly,
                             std::string_view nameFilter, std::int32_t& status) = 0;
   virtual void CloseSaveFiles(std::int32_t connection) = 0;

@@ -39,7 +39,9 @@ class UsersImport : public RecordSource {
   virtual void GetUsersImports(std::int32_t connection, std::int32_t importId, std::int32_t& status) = 0;
   virtual void CloseUsersImports(std::int32_t connection) = 0;
 
-  // Runs of an import's process, newest first, a row per imported user. importLogId: one run, -1 all.
+  // Runs of an import's process under one name, newest first, a row per imported user; with a processId of -1 process
+  // by process. A run that imported nobody has one row, without a name and with a true result. importLogId: one run, -1
+  // all.
   virtual void GetUsersImportByProcess(std::int32_t connection, std::int32_t importId, std::string_view name,
                                        std::int32_t processId, std::int32_t importLogId, std::int32_t& status) = 0;
   virtual void CloseUsersImportByProcess(std::int32_t connection) = 0;

@@ -75,7 +75,7 @@ TEST(OpeningTest, OtherFilesAreRefused) {
   refused(hub::kNotAHistory, "another program");
 }
 
-TEST(OpeningTest, NewerAndTruncatedHistoriesAreRefused) {
+TEST(OpeningTest, OtherVersionsAndTruncatedHistoriesAreRefused) {
   const SmallHistory history;
   const std::string whole = Read(history.file());
   for (const std::size_t size : {std::size_t{100}, std::size_t{4096}, whole.size() / 2, whole.size() - 1}) {
@@ -83,8 +83,10 @@ TEST(OpeningTest, NewerAndTruncatedHistoriesAreRefused) {
     ExpectRefused(history.file(), history.url(), hub::kHistoryDamaged, "malformed (SQLite 11)");
   }
   Write(history.file(), whole);
-  history.Sql("PRAGMA user_version = 2");
-  ExpectRefused(history.file(), history.url(), hub::kNewerHistory, "its schema is 2, known is 1");
+  history.Sql("PRAGMA user_version = 3");
+  ExpectRefused(history.file(), history.url(), hub::kOtherVersion, "newer version: its schema is 3, known is 2");
+  history.Sql("PRAGMA user_version = 1");
+  ExpectRefused(history.file(), history.url(), hub::kOtherVersion, "older version: its schema is 1, known is 2");
 }
 
 TEST(OpeningTest, MissingFileIsNotCreated) {

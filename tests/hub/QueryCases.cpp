@@ -2,22 +2,14 @@
 
 #include <gmock/gmock.h>
 
-#include <iomanip>
-#include <sstream>
-#include <string>
-#include <vector>
+#include <algorithm>
 
-#include "datasource/AlarmsLog.h"
-#include "datasource/CommandLog.h"
-#include "datasource/Contract.h"
 #include "datasource/Current.h"
 #include "datasource/Labels.h"
 #include "datasource/ProcessLog.h"
 #include "datasource/Quorvel.h"
-#include "datasource/Saves.h"
 #include "datasource/StepLog.h"
-#include "datasource/TaskSchedulerLog.h"
-#include "datasource/UsersImport.h"
+#include "hub/QueryRows.h"
 #include "support/SmallHistory.h"
 
 namespace quorvel::test {
@@ -26,31 +18,6 @@ namespace {
 using namespace datasource;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Ids = std::vector<std::int32_t>;
-
-// A line for each row: the promised columns in member order, joined by "|". The others must be empty.
-template <class Source>
-std::string Rows(std::string_view query, const Source& source) {
-  const auto count = static_cast<std::size_t>(source.lngCount());
-  RequireColumns(query, source.Records(), count);
-  const auto promised = ContractOf(query).columns;
-  std::vector<std::ostringstream> lines(count);
-  std::remove_cvref_t<decltype(source.Records())>::ForEachColumn(
-      source.Records(), [&](std::string_view name, const auto& column) {
-        if (std::ranges::find(promised, name) == promised.end()) {
-          EXPECT_EQ(column.size(), 0U) << name;
-          return;
-        }
-        for (std::size_t row = 0; row < count; ++row) lines[row] << std::setprecision(12) << column[row] << '|';
-      });
-  std::string text;
-  for (const std::ostringstream& line : lines) text += line.str() + '\n';
-  return text;
-}
-
-Ids All(const Column<std::int32_t>& column) {
-  return {column.values().begin(), column.values().end()};
-}
 
 // The runs of station rows, each once.
 Ids Runs(const ProcessLog& source) {
@@ -309,28 +276,6 @@ void CheckGetStepLogByTaskRun(Installation& at) {
   EXPECT_EQ(source->lngCount(), 0);
 }
 
-void CheckGetCommandLogByStepLog(Installation& at) {
-  const auto source = at.Create<CommandLog>();
-  std::int32_t status = -1;
-  const auto ask = [&](std::int32_t step) {
-    source->GetCommandLogByStepLog(at.Connection(), step, status);
-    return Rows("GetCommandLogByStepLog", *source);
-  };
-  const std::string commands = R"(501|46345.25|401|89|92|put a.zip|kept|46345.25|46345.265625|0|-1|0|
-0|0|402|88|91|put b.zip|lost|46345.265625|46345.28125|0|0|-1|
-)";
-  EXPECT_EQ(ask(kFirstStep), commands);
-  EXPECT_EQ(ask(kSecondStep), "");
-  EXPECT_EQ(status, 0);
-  EXPECT_EQ(ask(999), "");
-  EXPECT_EQ(status, 1);
-  EXPECT_EQ(ask(-1), "") << "the step itself is no filter";
-  EXPECT_EQ(status, 1);
-  EXPECT_EQ(ask(kFirstStep), commands);
-  source->CloseCommandLogByStepLog(at.Connection());
-  EXPECT_EQ(source->lngCount(), 0);
-}
-
 void CheckGetLabel(Installation& at) {
   const auto source = at.Create<Labels>();
   std::int32_t status = -1;
@@ -370,63 +315,29 @@ void CheckNotifyStopRequest(Installation& at) {
   EXPECT_EQ(Notify(at, kDeployRunning), 0);
 }
 
-// Sends one query of `Source` with these arguments; the status comes last.
-template <class Source, class... Parameters, class... Arguments>
-void Ask(Installation& at, void (Source::*query)(std::int32_t, Parameters...), Arguments... arguments) {
-  std::int32_t status = 0;
-  (at.Create<Source>().get()->*query)(at.Connection(), arguments..., status);
-}
-
-constexpr QueryCase kCases[] = {
-    {"GetProcessLogs",
-     [](Installation& at) { Ask(at, &ProcessLog::GetProcessLogs, kEarly, kLate, 0, -1, -1, -1, 0, 0); },
-     CheckGetProcessLogs},
-    {"GetProcessLogByProcess", [](Installation& at) { Ask(at, &ProcessLog::GetProcessLogByProcess, kDeploy, 0, 0); },
-     CheckGetProcessLogByProcess},
-    {"GetProcessLogByUser",
-     [](Installation& at) {
-       Ask(at, &ProcessLog::GetProcessLogByUser, kEarly, kLate, kEarly, kLate, 0, -1, -1, -1, -1);
-     },
-     CheckGetProcessLogByUser},
-    {"GetProcessLogsByName", [](Installation& at) { Ask(at, &ProcessLog::GetProcessLogsByName, kEarly, kLate, ""); },
-     CheckGetProcessLogsByName},
-    {"GetProcessLogByTask", [](Installation& at) { Ask(at, &ProcessLog::GetProcessLogByTask, kDeployWithAll, 1); },
-     CheckGetProcessLogByTask},
-    {"GetProcessLogDetail", [](Installation& at) { Ask(at, &ProcessLog::GetProcessLogDetail, kDeployWithAll, 0, 0); },
-     CheckGetProcessLogDetail},
-    {"GetTaskRunsByProcessLog",
-     [](Installation& at) { Ask(at, &Quorvel::GetTaskRunsByProcessLog, kDeployWithAll, false, kAlpha); },
-     CheckGetTaskRunsByProcessLog},
-    {"GetStepLogByTaskRun",
-     [](Installation& at) { Ask(at, &StepLog::GetStepLogByTaskRun, kCopy, kDeployWithAll, kAlpha); },
-     CheckGetStepLogByTaskRun},
-    {"GetCommunications", [](Installation& at) { Ask(at, &CommandLog::GetCommunications, kEarly, kLate, 0, -1, 0); },
-     nullptr},
-    {"GetCommunicationsByMonth",
-     [](Installation& at) { Ask(at, &CommandLog::GetCommunicationsByMonth, kEarly, kLate, 0, -1); }, nullptr},
-    {"GetCommandLogByCommunication", [](Installation& at) { Ask(at, &CommandLog::GetCommandLogByCommunication, 501); },
-     nullptr},
-    {"GetCommandLogByStepLog", [](Installation& at) { Ask(at, &CommandLog::GetCommandLogByStepLog, kFirstStep); },
-     CheckGetCommandLogByStepLog},
-    {"GetAlarms", [](Installation& at) { Ask(at, &AlarmsLog::GetAlarms, -1, 0); }, nullptr},
-    {"GetAlarmsByDay", [](Installation& at) { Ask(at, &AlarmsLog::GetAlarmsByDay, kNoon, -1, -1); }, nullptr},
-    {"GetSaves", [](Installation& at) { Ask(at, &Saves::GetSaves, 0, -1, kEarly, kLate); }, nullptr},
-    {"GetSaveFiles", [](Installation& at) { Ask(at, &Saves::GetSaveFiles, 1, 0, ""); }, nullptr},
-    {"GetUsersImports", [](Installation& at) { Ask(at, &UsersImport::GetUsersImports, 1); }, nullptr},
-    {"GetUsersImportByProcess", [](Installation& at) { Ask(at, &UsersImport::GetUsersImportByProcess, 1, "", 0, -1); },
-     nullptr},
-    {"GetTaskSchedulerLogs",
-     [](Installation& at) { Ask(at, &TaskSchedulerLog::GetTaskSchedulerLogs, kEarly, kLate, 3, 0, -1); }, nullptr},
-    {"GetLabel", [](Installation& at) { Ask(at, &Labels::GetLabel, "UseType"); }, CheckGetLabel},
-    {"NotifyStopRequest", [](Installation& at) { Notify(at, kDeployRunning); }, CheckNotifyStopRequest},
-    {"StopExecution", [](Installation& at) { Stop(at, false, kDeployRunning); }, CheckStopExecution},
+constexpr QueryCase kRunCases[] = {
+    {"GetProcessLogs", CheckGetProcessLogs},
+    {"GetProcessLogByProcess", CheckGetProcessLogByProcess},
+    {"GetProcessLogByUser", CheckGetProcessLogByUser},
+    {"GetProcessLogsByName", CheckGetProcessLogsByName},
+    {"GetProcessLogByTask", CheckGetProcessLogByTask},
+    {"GetProcessLogDetail", CheckGetProcessLogDetail},
+    {"GetTaskRunsByProcessLog", CheckGetTaskRunsByProcessLog},
+    {"GetStepLogByTaskRun", CheckGetStepLogByTaskRun},
+    {"GetLabel", CheckGetLabel},
+    {"NotifyStopRequest", CheckNotifyStopRequest},
+    {"StopExecution", CheckStopExecution},
 };
 
 }  // namespace
 
 const QueryCase* CaseOf(std::string_view query) {
-  const auto* const found = std::ranges::find(kCases, query, &QueryCase::query);
-  return found == std::end(kCases) ? nullptr : found;
+  for (const std::span<const QueryCase> cases :
+       {std::span<const QueryCase>(kRunCases), ConnectionCases(), LogCases()}) {
+    const auto found = std::ranges::find(cases, query, &QueryCase::query);
+    if (found != cases.end()) return &*found;
+  }
+  return nullptr;
 }
 
 }  // namespace quorvel::test

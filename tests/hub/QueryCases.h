@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string_view>
 
 #include "datasource/RecordSource.h"
@@ -23,9 +24,13 @@ class Installation {
 
 struct QueryCase {
   std::string_view query;
-  void (*ask)(Installation& at);    // creates the class and sends the query once
-  void (*check)(Installation& at);  // null while no implementation answers the query
+  void (*check)(Installation& at);  // creates the class and sends the query in all ways that matter
 };
+
+// Of connections, with the commands of connections and of steps.
+std::span<const QueryCase> ConnectionCases();
+// Of alarms, backups, user imports and the scheduler's log.
+std::span<const QueryCase> LogCases();
 
 // The case of a query, null when there is none.
 const QueryCase* CaseOf(std::string_view query);

@@ -9,7 +9,9 @@
 
 #include "datasource/Contract.h"
 #include "hub/SqliteInstallation.h"
+#include "hub/sqlite/ConnectionQueries.h"
 #include "hub/sqlite/Database.h"
+#include "hub/sqlite/LogQueries.h"
 #include "hub/sqlite/Queries.h"
 
 namespace quorvel::test {
@@ -46,14 +48,9 @@ std::set<std::string> StatementsOfAllQueries() {
   const SentStatements listening;
   std::set<std::string> sent;
   for (const datasource::QueryContract& contract : datasource::Queries()) {
-    const QueryCase& each = *CaseOf(contract.query);
     SqliteInstallation at;
     SentStatements::All().clear();  // of the fixture, and of opening
-    try {
-      (each.check != nullptr ? each.check : each.ask)(at);
-    } catch (const Error&) {
-      // The conformance test knows which queries are not answered yet.
-    }
+    CaseOf(contract.query)->check(at);
     sent.merge(SentStatements::All());
   }
   return sent;
@@ -67,9 +64,16 @@ std::vector<std::string> PlanOf(const hub::Database& database, const std::string
   return steps;
 }
 
-// A step of a plan that does not grow with the history: it finds rows by the first column of an index or by the key, or
-// goes through the processes or stations by name, which are few whatever the history holds. Everything that is not
-// known to be so counts as dear: scans, sorts, tables and indexes made for the moment.
+// "(day>? AND day<?)".
+bool IsPeriod(const std::string& bounds) {
+  const std::string column = bounds.substr(1, bounds.find('>') - 1);
+  return bounds.starts_with("(" + column + ">? AND " + column + "<?");
+}
+
+// A step of a plan that does not grow with the history: it finds rows by the first column of an index or by the key,
+// cuts a period out of an index, whose rows are what was asked for, or goes through the processes or stations by name,
+// which are few whatever the history holds. Everything that is not known to be so counts as dear: scans, sorts, tables
+// and indexes made for the moment.
 bool IsCheap(const std::string& step) {
   constexpr const char* kWithoutRows[] = {
       "CORRELATED SCALAR SUBQUERY", "SCALAR SUBQUERY", "LIST SUBQUERY", "MERGE (UNION ALL)", "LEFT", "RIGHT"};
@@ -79,19 +83,30 @@ bool IsCheap(const std::string& step) {
   if (isIn("TEMP B-TREE") || isIn("AUTOMATIC")) return false;
   if (begins("SCAN ")) return std::ranges::any_of(kFew, isIn);
   if (!begins("SEARCH ")) return std::ranges::any_of(kWithoutRows, begins);
-  const std::size_t first = step.find('(');
-  return first != std::string::npos && step.compare(step.find_first_of("=<>(", first + 1), 2, "=?") == 0;
+  const std::string bounds = step.substr(std::min(step.find('('), step.size()));
+  const std::size_t first = bounds.find('?');
+  return bounds.substr(0, first).ends_with('=') || (first != std::string::npos && IsPeriod(bounds));
+}
+
+// These sort what stays few: one row for each station, or for each name and process of one import.
+bool SortsFew(const std::string& sql) {
+  constexpr std::string_view kStatements[] = {hub::kLastCommunications, hub::kDaysOfLastCommunications,
+                                              hub::kNamesOfImport};
+  return std::ranges::find(kStatements, sql) != std::end(kStatements);
 }
 
 std::vector<std::string> DearSteps(const hub::Database& database, const std::string& sql) {
   std::vector<std::string> steps = PlanOf(database, sql);
   std::erase_if(steps, IsCheap);
+  if (SortsFew(sql)) {
+    std::erase_if(steps, [](const std::string& step) { return step.starts_with("USE TEMP B-TREE FOR "); });
+  }
   return steps;
 }
 
 TEST(QueryPlanTest, EveryStatementGoesByIndex) {
   const std::set<std::string> statements = StatementsOfAllQueries();
-  EXPECT_GT(statements.size(), 30U);
+  EXPECT_GT(statements.size(), 50U);
   const SmallHistory history;
   const hub::Database database(history.file(), hub::Access::kReadOnly);
   for (const std::string& sql : statements) EXPECT_THAT(DearSteps(database, sql), IsEmpty()) << sql;
@@ -118,6 +133,14 @@ TEST(QueryPlanTest, WhatGrowsWithTheHistoryIsFound) {
       changed(hub::kStationsOfRuns, "r.process_id = p.process_id", "r.process_id + 0 = p.process_id"),
       changed(hub::kRunsOfStations, "s.run_start_date DESC", "s.end_date DESC"),
       changed(hub::kRunsOfStations, "s.station_id = t.station_id AND", ""),
+      changed(hub::kCommunications, "day <= CAST(:to AS INTEGER)", "day <> 0"),
+      changed(hub::kCommunications, "communication_id DESC", "end_date"),
+      changed(hub::kDaysOfCommunications, "GROUP BY day", "GROUP BY start_date"),
+      changed(hub::kAlarms, "a.raised_date DESC", "a.raised_date"),
+      changed(hub::kAlarmsOfDay, "a.raised_date < :to", "a.raised_date <> :to"),
+      changed(hub::kRunsOfImport, "r.user_import_id = :import AND", ""),
+      changed(hub::kSchedulerLogs, "logged_date DESC", "level"),
+      changed(hub::kCommandsOfCommunication, "AND communication_id <> 0", ""),
       changed(hub::kCommandsOfStep, "step_log_id = :step", "step_log_id + 0 = :step"),
   };
   for (const std::string& sql : dear) EXPECT_THAT(DearSteps(database, sql), Not(IsEmpty())) << sql;
