@@ -121,16 +121,42 @@ struct HistoryWriter::Session {
                    "command_log",
                    {"step_log_id", "communication_id", "communication_date", "kind", "result", "text", "report",
                     "start_date", "end_date", "in_progress", "ok", "not_ok"}};
+  Inserter communication{database,
+                         "communication",
+                         {"communication_id", "station_id", "station_name", "from_station", "start_date", "end_date",
+                          "size_kb", "report", "in_progress", "ok", "not_ok"}};
+  Inserter alarm{database,
+                 "alarm",
+                 {"owner_id", "raised_date", "severity", "action", "origin", "text", "acknowledged", "acknowledged_by",
+                  "acknowledged_date", "process_run_id", "process_name"}};
+  Inserter backup{database, "backup", {"backup_id", "station_id", "name", "saved_date", "size_kb", "ok"}};
+  Inserter backupFile{database, "backup_file", {"backup_id", "name", "path", "saved_date", "size_kb", "ok"}};
+  Inserter userImport{database, "user_import", {"user_import_id", "name"}};
+  Inserter importRun{
+      database, "import_run", {"import_run_id", "user_import_id", "name", "process_id", "batch_number", "start_date"}};
+  Inserter importedUser{database, "imported_user", {"import_run_id", "user_name", "ok", "report"}};
+  Inserter schedulerLog{
+      database,
+      "scheduler_log",
+      {"logged_date", "level", "machine", "label", "company_id", "company", "user_name", "attachment"}};
 };
 
 std::string Describe(const RowCounts& counts) {
   const auto part = [](std::int32_t count, const char* one, const char* many) {
     return std::to_string(count) + " " + (count == 1 ? one : many);
   };
+  const auto partIfAny = [&](std::int32_t count, const char* one, const char* many) {
+    return count == 0 ? "" : ", " + part(count, one, many);
+  };
   return part(counts.stations, "station, ", "stations, ") + part(counts.processes, "process, ", "processes, ") +
          part(counts.runs, "run, ", "runs, ") + part(counts.stationRuns, "station row, ", "station rows, ") +
          part(counts.taskRuns, "task, ", "tasks, ") + part(counts.steps, "step, ", "steps, ") +
-         part(counts.commands, "command", "commands");
+         part(counts.commands, "command", "commands") + partIfAny(counts.communications, "connection", "connections") +
+         partIfAny(counts.alarms, "alarm", "alarms") + partIfAny(counts.backups, "backup", "backups") +
+         partIfAny(counts.backupFiles, "saved file", "saved files") +
+         partIfAny(counts.importRuns, "import run", "import runs") +
+         partIfAny(counts.importedUsers, "imported user", "imported users") +
+         partIfAny(counts.schedulerLogs, "system row", "system rows");
 }
 
 HistoryWriter::HistoryWriter(std::filesystem::path file, Existing existing)
@@ -196,6 +222,50 @@ void HistoryWriter::Add(std::int32_t stepLogId, const CommandRow& row) {
   session_->command.Insert(stepLogId, row.communicationId, row.communicationDate, row.kind, row.code, row.text,
                            row.report, row.start, row.end, row.result.inProgress, row.result.ok, row.result.notOk);
   ++counts_.commands;
+}
+
+void HistoryWriter::Add(const CommunicationRow& row) {
+  session_->communication.Insert(row.id, row.stationId, row.stationName, row.fromStation, row.start, row.end,
+                                 row.sizeKb, row.report, row.result.inProgress, row.result.ok, row.result.notOk);
+  ++counts_.communications;
+}
+
+void HistoryWriter::Add(const AlarmRow& row) {
+  session_->alarm.Insert(row.ownerId, row.raised, row.severity, row.action, row.origin, row.text, row.acknowledged,
+                         row.acknowledgedBy, row.acknowledgedDate, row.processRunId, row.processName);
+  ++counts_.alarms;
+}
+
+std::int32_t HistoryWriter::Add(const BackupRow& row) {
+  const std::int32_t id = ++counts_.backups;
+  session_->backup.Insert(id, row.stationId, row.name, row.saved, row.sizeKb, row.ok);
+  return id;
+}
+
+void HistoryWriter::Add(std::int32_t backupId, const BackupFileRow& row) {
+  session_->backupFile.Insert(backupId, row.name, row.path, row.saved, row.sizeKb, row.ok);
+  ++counts_.backupFiles;
+}
+
+void HistoryWriter::Add(const UserImportRow& row) {
+  session_->userImport.Insert(row.id, row.name);
+}
+
+std::int32_t HistoryWriter::Add(const ImportRunRow& row) {
+  const std::int32_t id = ++counts_.importRuns;
+  session_->importRun.Insert(id, row.importId, row.name, row.processId, row.batchNumber, row.start);
+  return id;
+}
+
+void HistoryWriter::Add(std::int32_t importRunId, const ImportedUserRow& row) {
+  session_->importedUser.Insert(importRunId, row.name, row.ok, row.report);
+  ++counts_.importedUsers;
+}
+
+void HistoryWriter::Add(const SchedulerLogRow& row) {
+  session_->schedulerLog.Insert(row.logged, row.level, row.machine, row.label, row.companyId, row.company, row.userName,
+                                row.attachment);
+  ++counts_.schedulerLogs;
 }
 
 void HistoryWriter::Finish() {

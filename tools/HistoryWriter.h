@@ -14,7 +14,7 @@ namespace quorvel::tools {
 // What to do with a file that has the history's name already.
 enum class Existing { kKeep, kReplace };
 
-// "60 stations, 24 processes, 200 runs, ...".
+// "60 stations, 24 processes, 200 runs, ...". What lies beside the runs is left out where there is none of it.
 std::string Describe(const RowCounts& counts);
 
 // Rows go to "FILE.partial", which becomes FILE in Finish(); a writer that ends without it leaves FILE as it was.
@@ -37,7 +37,16 @@ class HistoryWriter {
   void Add(const ProcessRunRow& run, const StationRunRow& row);
   std::int32_t Add(const ProcessRunRow& run, const TaskRunRow& row);
   std::int32_t Add(std::int32_t taskRunId, const StepRow& row);
+  // A command of a connection alone has the step 0.
   void Add(std::int32_t stepLogId, const CommandRow& row);
+  void Add(const CommunicationRow& row);
+  void Add(const AlarmRow& row);
+  std::int32_t Add(const BackupRow& row);
+  void Add(std::int32_t backupId, const BackupFileRow& row);
+  void Add(const UserImportRow& row);
+  std::int32_t Add(const ImportRunRow& row);
+  void Add(std::int32_t importRunId, const ImportedUserRow& row);
+  void Add(const SchedulerLogRow& row);
 
   const RowCounts& counts() const { return counts_; }
 

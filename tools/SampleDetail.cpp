@@ -36,9 +36,11 @@ class PartDetail {
         process_(*plan.processes[static_cast<std::size_t>(run.processId - 1)].kind),
         part_(part),
         span_{part.start, part.end == 0 ? plan.now : part.end},
-        communicationId_(communicationId) {}
+        connection_{.id = communicationId, .station = part.station, .fromStation = run.onStation, .start = part.start} {
+  }
 
-  void Write() {
+  // Gives the connection that carried commands; its identifier is 0 when there was none.
+  CarriedConnection Write() {
     const bool onStation = part_.station != kNoStation;
     const auto count = static_cast<std::size_t>(
         std::ranges::count(process_.tasks, onStation, [](const TaskTemplate* task) { return task->onStation; }));
@@ -48,6 +50,7 @@ class PartDetail {
       const Span span = Piece(span_, written, count);
       WriteTask(i, span, ++written == count);
     }
+    return carried_ ? connection_ : CarriedConnection{};
   }
 
  private:
@@ -114,7 +117,7 @@ class PartDetail {
   }
 
   void WriteCommands(std::int32_t stepLogId, const StepTemplate& kind, const StepRow& step, PartState state) {
-    const bool connected = kind.executeWhere == "Communication" && communicationId_ != 0 && part_.start != 0;
+    const bool connected = kind.executeWhere == "Communication" && connection_.id != 0 && part_.start != 0;
     const std::string station =
         part_.station == kNoStation ? "SERVER" : plan_.stations[static_cast<std::size_t>(part_.station)].identifier;
     for (std::size_t i = 0; i < kind.commands.size(); ++i) {
@@ -122,16 +125,28 @@ class PartDetail {
       const bool last = i + 1 == kind.commands.size();
       const bool failed = last && state == PartState::kNotOk;
       const std::string text = Fill(command.text, "{station}", station);
-      writer_.Add(stepLogId, CommandRow{.communicationId = connected ? communicationId_ : 0,
-                                        .communicationDate = connected ? DateAt(part_.start) : 0,
-                                        .kind = command.kind,
-                                        .code = failed ? part_.failure->code : command.code,
-                                        .text = text,
-                                        .report = failed ? part_.failure->commandReport : "",
-                                        .start = step.start,
-                                        .end = last ? step.end : step.start,
-                                        .result = last ? step.result : kSuccessResult});
+      const CommandRow row{.communicationId = connected ? connection_.id : 0,
+                           .communicationDate = connected ? DateAt(part_.start) : 0,
+                           .kind = command.kind,
+                           .code = failed ? part_.failure->code : command.code,
+                           .text = text,
+                           .report = failed ? part_.failure->commandReport : "",
+                           .start = step.start,
+                           .end = last ? step.end : step.start,
+                           .result = last ? step.result : kSuccessResult};
+      writer_.Add(stepLogId, row);
+      if (connected) Carry(row, failed);
     }
+  }
+
+  void Carry(const CommandRow& command, bool failed) {
+    carried_ = true;
+    connection_.end = command.end;
+    const bool lineFailed = failed && !part_.failure->lineStays;
+    connection_.result = failed && !lineFailed ? kSuccessResult : command.result;
+    if (lineFailed) connection_.report = part_.failure->report;
+    const bool sent = command.kind == kSendFile || command.kind == kReceiveFile;
+    if (sent && command.result == kSuccessResult) ++connection_.transfers;
   }
 
   const SamplePlan& plan_;
@@ -140,7 +155,8 @@ class PartDetail {
   const ProcessTemplate& process_;
   const StationPart& part_;
   Span span_;
-  std::int32_t communicationId_;
+  CarriedConnection connection_;
+  bool carried_ = false;
 };
 
 }  // namespace
@@ -151,7 +167,8 @@ void SampleDetail::Write(const PlannedRun& run, const ProcessRunRow& row, const 
   PartDetail(plan_, writer_, row, parts.server, 0).Write();
   for (const StationPart& part : parts.stations) {
     if (part.station == kNoStation || !isKept(part)) continue;
-    PartDetail(plan_, writer_, row, part, ++lastCommunication_).Write();
+    const CarriedConnection connection = PartDetail(plan_, writer_, row, part, ++facts_.lastConnection).Write();
+    if (connection.id != 0) facts_.connections.push_back(connection);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "tools/HistoryWriter.h"
+#include "tools/SampleFacts.h"
 #include "tools/SampleParts.h"
 #include "tools/SamplePlan.h"
 
@@ -11,16 +12,18 @@ namespace quorvel::tools {
 
 class SampleDetail {
  public:
-  // Both must outlive this.
-  SampleDetail(const SamplePlan& plan, HistoryWriter& writer) : plan_(plan), writer_(writer) {}
+  // All must outlive this.
+  SampleDetail(const SamplePlan& plan, HistoryWriter& writer, SampleFacts& facts)
+      : plan_(plan), writer_(writer), facts_(facts) {}
 
-  // Writes what the run keeps: everything when it is planned in detail, else what leads to its failures.
+  // Writes what the run keeps: everything when it is planned in detail, else what leads to its failures. The
+  // connections that carried commands go to the facts.
   void Write(const PlannedRun& run, const ProcessRunRow& row, const RunParts& parts);
 
  private:
   const SamplePlan& plan_;
   HistoryWriter& writer_;
-  std::int32_t lastCommunication_ = 0;
+  SampleFacts& facts_;
 };
 
 }  // namespace quorvel::tools

@@ -4,10 +4,15 @@
 #include <cstddef>
 
 #include "platform/Error.h"
+#include "tools/SampleAlarms.h"
+#include "tools/SampleBackups.h"
+#include "tools/SampleConnections.h"
 #include "tools/SampleDetail.h"
+#include "tools/SampleImports.h"
 #include "tools/SampleNames.h"
 #include "tools/SampleParts.h"
 #include "tools/SamplePlan.h"
+#include "tools/SampleSystemLog.h"
 
 namespace quorvel::tools {
 namespace {
@@ -31,8 +36,11 @@ void Require(bool holds, const char* otherwise) {
 }
 
 void Check(const SampleOptions& options) {
-  Require(options.stations >= 0 && options.runs >= 0 && options.detailRuns.value_or(0) >= 0 &&
-              options.stationRows.value_or(0) >= 0,
+  const std::optional<std::int32_t> counts[] = {options.stations,      options.runs,           options.detailRuns,
+                                                options.stationRows,   options.communications, options.alarms,
+                                                options.saves,         options.saveFiles,      options.imports,
+                                                options.importedUsers, options.systemRows};
+  Require(std::ranges::none_of(counts, [](const auto& count) { return count.value_or(0) < 0; }),
           "A sample cannot hold a negative number of anything");
   Require(options.processes.value_or(1) >= 1, "A sample needs a process");
   Require(options.days >= 1, "A sample needs a day");
@@ -83,25 +91,38 @@ void WriteStationRun(const SamplePlan& plan, const ProcessRunRow& run, Second ru
                     .waitState = part.waitState};
   if (part.station != kNoStation) {
     const PlannedStation& station = plan.stations[static_cast<std::size_t>(part.station)];
-    const bool former = !station.formerName.empty() && runStart < plan.renamed;
-    row.stationName = former ? station.formerName : station.name;
+    row.stationName = NameAt(plan, station, runStart);
     row.identifier = station.identifier;
     row.company = CompanyOf(station);
   }
   writer.Add(run, row);
 }
 
-void WriteRuns(const SamplePlan& plan, std::uint64_t seed, HistoryWriter& writer) {
-  SampleDetail detail(plan, writer);
+RunFact FactOf(const PlannedRun& run, const RunParts& parts) {
+  RunFact fact{.end = EndOf(run, parts)};
+  for (const StationPart& part : parts.stations) {
+    if (part.state != PartState::kNotOk || fact.failedParts++ > 0) continue;
+    fact.station = part.station;
+    fact.failedAt = part.end;
+    fact.failure = part.failure;
+  }
+  return fact;
+}
+
+SampleFacts WriteRuns(const SamplePlan& plan, std::uint64_t seed, HistoryWriter& writer) {
+  SampleFacts facts;
+  SampleDetail detail(plan, writer, facts);
   for (std::size_t i = 0; i < plan.runs.size(); ++i) {
     const PlannedRun& run = plan.runs[i];
     const RunParts parts = PartsOf(plan, i, seed);
+    facts.runs.push_back(FactOf(run, parts));
     const ProcessRunRow row{static_cast<std::int32_t>(i) + 1, run.process + 1, DateAt(run.start),
-                            DateAt(EndOf(run, parts)), run.onStation};
+                            DateAt(facts.runs.back().end), run.onStation};
     writer.Add(row);
     for (const StationPart& part : parts.stations) WriteStationRun(plan, row, run.start, part, writer);
     detail.Write(run, row, parts);
   }
+  return facts;
 }
 
 }  // namespace
@@ -111,7 +132,12 @@ RowCounts WriteSampleHistory(const SampleOptions& options, const std::filesystem
   const SamplePlan plan = PlanSample(options);
   HistoryWriter writer(file, existing);
   WriteNames(plan, writer);
-  WriteRuns(plan, options.seed, writer);
+  const SampleFacts facts = WriteRuns(plan, options.seed, writer);
+  WriteSampleConnections(options, plan, facts, writer);
+  WriteSampleAlarms(options, plan, facts, writer);
+  WriteSampleBackups(options, plan, writer);
+  WriteSampleImports(options, plan, writer);
+  WriteSampleSystemLog(options, plan, facts, writer);
   writer.Finish();
   return writer.counts();
 }

@@ -82,7 +82,7 @@ constexpr Failure kConnectionFailures[] = {
 };
 constexpr Failure kTransferFailures[] = {
     {"Connection lost at 87 % of the file", "Connection reset by peer", 54},
-    {"The file to be transferred was not found", "No such file", 2},
+    {"The file to be transferred was not found", "No such file", 2, true},
 };
 constexpr Failure kMailFailures[] = {
     {"Mail server did not accept the message", "550 mailbox unavailable", 550},

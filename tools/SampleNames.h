@@ -35,6 +35,7 @@ struct Failure {
   std::string_view report;         // on the station, its task and its step
   std::string_view commandReport;  // what the command said
   std::int32_t code = 0;           // and its result
+  bool lineStays = false;          // no fault of the connection that carried the command
 };
 
 // What goes wrong in steps that run that risk; one at least.
@@ -48,6 +49,12 @@ std::string Fill(std::string_view text, std::string_view mark, std::string_view 
 
 // What a station in progress can wait for; the last one is of a later version.
 std::span<const std::string_view> WaitStates();
+
+// A name that is longer than any column is wide.
+inline constexpr std::string_view kLongLabel =
+    "Everything that the shops of all regions have kept since the last stocktaking, with the photographs of the "
+    "shelves, the recordings of the tills that were exchanged, and the letters that were never sent because the "
+    "printer of the head office was under repair for the whole of the winter and most of the spring that followed";
 
 // Reports that are hard to show: empty, in several scripts, with separators, of about 20 kB, not even UTF-8.
 std::span<const std::string> OddReports();

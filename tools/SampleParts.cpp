@@ -24,8 +24,6 @@ struct Quality {
 };
 constexpr Quality kQualities[] = {{58, 0, 0, 0, false},   {28, 8, 0, 0, false}, {7, 20, 15, 4, false},
                                   {4, 120, 30, 8, false}, {2, 0, 0, 40, false}, {1, 0, 0, 0, true}};
-// Some stations have bad lines or old disks.
-constexpr std::int32_t kWeakStationEvery = 61;
 constexpr std::int64_t kWeakStationNotOk = 60;
 constexpr Second kServerTaskSeconds = 45;
 
@@ -74,16 +72,8 @@ void SetFlags(StationPart& part, const Flags& flags) {
   part.executed = flags.executed;
 }
 
-template <class T>
-const T& AnyOf(std::span<const T> values, SampleRandom& random) {
-  return values[static_cast<std::size_t>(random.Below(static_cast<std::int64_t>(values.size())))];
-}
-
 const Quality& AnyQuality(SampleRandom& random) {
-  std::int64_t left = random.Below(100);
-  const Quality* quality = kQualities;
-  while ((left -= quality->nights) >= 0) ++quality;
-  return *quality;
+  return AnyByWeight(kQualities, &Quality::nights, random);
 }
 
 class RunTeller {
@@ -152,7 +142,7 @@ class RunTeller {
   }
 
   PartState Outcome(std::int32_t station) {
-    const bool weak = station % kWeakStationEvery == kWeakStationEvery / 2 && run_.kind == RunKind::kOrdinary;
+    const bool weak = IsWeakStation(station) && run_.kind == RunKind::kOrdinary;
     const std::int64_t notOk = quality_.notOk + (weak ? kWeakStationNotOk : 0);
     const std::int64_t draw = random_.Below(1000);
     if (draw < notOk) return PartState::kNotOk;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <numeric>
+#include <span>
 
 #include "tools/SampleNames.h"
 #include "tools/SampleRandom.h"
@@ -16,9 +16,6 @@ using datasource::kTrue;
 constexpr std::uint64_t kRunsStream = 1;
 constexpr std::int32_t kFewStations = 5;
 constexpr std::int64_t kDetailBudget = 20000;  // station rows with tasks, where nothing else is asked for
-constexpr std::int64_t kNightPerMille = 800;
-constexpr Second kNightStart = 22 * kHour;
-constexpr Second kNightLength = 7 * kHour;
 
 // Where the rare cases are put.
 struct RareRun {
@@ -115,24 +112,9 @@ void PlanProcesses(SamplePlan& plan, const SampleOptions& options) {
   for (const auto& process : kRareProcesses) plan.processes.push_back({&process(), std::string(process().name), 0});
 }
 
-// Mostly at night, when shops are closed.
-Second AnyStart(const SampleOptions& options, Second now, SampleRandom& random) {
-  const Second any = now - kMinute - random.Below(options.days * kDay - kMinute);
-  if (!random.PerMille(kNightPerMille)) return any;
-  const Second night = any - any % kDay + kNightStart - kDay + random.Below(kNightLength);
-  return night >= now - options.days * kDay && night < now ? night : any;
-}
-
 std::int32_t AnyProcess(const std::vector<PlannedProcess>& processes, SampleRandom& random) {
-  const auto add = [](std::int64_t sum, const PlannedProcess& process) { return sum + process.kind->weight; };
-  std::int64_t left = random.Below(std::accumulate(processes.begin(), processes.end(), std::int64_t{0}, add));
-  std::int32_t index = 0;
-  for (const PlannedProcess& process : processes) {
-    left -= process.kind->weight;
-    if (left < 0) break;
-    ++index;
-  }
-  return index;
+  const auto weight = [](const PlannedProcess& process) { return process.kind->weight; };
+  return static_cast<std::int32_t>(&AnyByWeight(processes, weight, random) - processes.data());
 }
 
 void SetPopulation(PlannedRun& run, const SamplePlan& plan, SampleRandom& random) {
@@ -143,11 +125,9 @@ void SetPopulation(PlannedRun& run, const SamplePlan& plan, SampleRandom& random
   run.onStation = ownRun && all > 0 ? kTrue : kFalse;
   run.firstStation = static_cast<std::int32_t>(random.Below(all));
   const Population population = ownRun ? Population::kOne : process.kind->population;
-  const bool forCompany =
-      population == Population::kCompany || (population == Population::kAll && process.name != process.kind->name);
   if (all == 0 || population == Population::kNone) {
     run.stationCount = 0;
-  } else if (forCompany) {
+  } else if (!ownRun && IsForCompany(process)) {
     run.firstStation = FirstStation(plan, process.company);
     run.stationCount = FirstStation(plan, process.company + 1) - run.firstStation;
   } else if (population == Population::kAll) {
@@ -165,7 +145,7 @@ void PlanOrdinaryRuns(SamplePlan& plan, const SampleOptions& options, std::int32
       std::ranges::count_if(plan.processes, [](const PlannedProcess& p) { return p.kind->weight > 0; });
   for (std::int32_t i = 0; i < count; ++i) {
     PlannedRun run;
-    run.start = AnyStart(options, plan.now, random);
+    run.start = AnyTime(options, plan.now, random);
     run.process = i < ordinary ? i : AnyProcess(plan.processes, random);
     SetPopulation(run, plan, random);
     plan.runs.push_back(run);
@@ -243,11 +223,6 @@ void ChooseDetailed(SamplePlan& plan, std::optional<std::int32_t> count) {
   }
 }
 
-Second SecondOf(DateValue date) {
-  const CivilTime time = CivilFromDate(date).value();
-  return static_cast<Second>(DatePart(date)) * kDay + time.hour * kHour + time.minute * kMinute + time.second;
-}
-
 }  // namespace
 
 SamplePlan PlanSample(const SampleOptions& options) {
@@ -256,9 +231,9 @@ SamplePlan PlanSample(const SampleOptions& options) {
   plan.renamed = plan.now - options.days * kDay / 2;
   PlanStations(plan, options);
   PlanProcesses(plan, options);
-  const bool rare = HasRareCases(options);
-  PlanOrdinaryRuns(plan, options, options.runs - (rare ? Size(std::size(kRareRuns)) : 0));
-  if (rare) {
+  plan.rareCases = HasRareCases(options);
+  PlanOrdinaryRuns(plan, options, options.runs - (plan.rareCases ? Size(std::size(kRareRuns)) : 0));
+  if (plan.rareCases) {
     PlanOddStations(plan);
     PlanRareRuns(plan);
   }
@@ -266,6 +241,15 @@ SamplePlan PlanSample(const SampleOptions& options) {
   if (options.stationRows) FitStationRows(plan, *options.stationRows);
   ChooseDetailed(plan, options.detailRuns);
   return plan;
+}
+
+std::string_view NameAt(const SamplePlan& plan, const PlannedStation& station, Second time) {
+  return !station.formerName.empty() && time < plan.renamed ? station.formerName : station.name;
+}
+
+bool IsForCompany(const PlannedProcess& process) {
+  const Population population = process.kind->population;
+  return population == Population::kCompany || (population == Population::kAll && process.name != process.kind->name);
 }
 
 }  // namespace quorvel::tools

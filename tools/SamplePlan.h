@@ -3,24 +3,15 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "datasource/Column.h"
 #include "tools/SampleHistory.h"
 #include "tools/SampleProcesses.h"
+#include "tools/SampleTime.h"
 
 namespace quorvel::tools {
-
-// Local time in whole seconds since 1899-12-30; 0 = none.
-using Second = std::int64_t;
-inline constexpr Second kMinute = 60;
-inline constexpr Second kHour = 3600;
-inline constexpr Second kDay = 86400;
-
-constexpr DateValue DateAt(Second second) {
-  const Second day = second / kDay;
-  return static_cast<double>(day) + static_cast<double>(second % kDay) / static_cast<double>(kDay);
-}
 
 // A run is ordinary or holds one group of rare cases.
 enum class RunKind {
@@ -69,8 +60,21 @@ struct SamplePlan {
   std::vector<PlannedProcess> processes{};
   std::vector<PlannedRun> runs{};
   std::int32_t companies = 0;
+  bool rareCases = false;  // the sample is large enough to hold every rare case
 };
 
 SamplePlan PlanSample(const SampleOptions& options);
+
+// What a station was called at that time.
+std::string_view NameAt(const SamplePlan& plan, const PlannedStation& station, Second time);
+
+// Some stations, by index, have bad lines or old disks.
+constexpr bool IsWeakStation(std::int32_t station) {
+  constexpr std::int32_t kEvery = 61;
+  return station % kEvery == kEvery / 2;
+}
+
+// Whether only stations of the process's company take part in its runs.
+bool IsForCompany(const PlannedProcess& process);
 
 }  // namespace quorvel::tools

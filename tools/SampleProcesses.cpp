@@ -3,15 +3,11 @@
 namespace quorvel::tools {
 namespace {
 
-// Kind codes of commands. 88 to 90 are file transfers.
+// Kind codes of the other commands.
 constexpr std::int32_t kRunProgram = 11;
 constexpr std::int32_t kQuery = 21;
 constexpr std::int32_t kCopyFile = 31;
-constexpr std::int32_t kConnect = 41;
 constexpr std::int32_t kMail = 51;
-constexpr std::int32_t kListFiles = 88;
-constexpr std::int32_t kSendFile = 89;
-constexpr std::int32_t kReceiveFile = 90;
 
 // Step kinds.
 constexpr std::int32_t kPlain = 0;

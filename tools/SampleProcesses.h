@@ -7,6 +7,13 @@
 
 namespace quorvel::tools {
 
+// Kind codes of what is said on a line; 88 to 90 are file transfers.
+inline constexpr std::int32_t kConnect = 41;
+inline constexpr std::int32_t kHangUp = 42;
+inline constexpr std::int32_t kListFiles = 88;
+inline constexpr std::int32_t kSendFile = 89;
+inline constexpr std::int32_t kReceiveFile = 90;
+
 struct CommandTemplate {
   std::string_view text{};  // "{station}" stands for the station's identifier
   std::int32_t kind = 0;

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <iterator>
 #include <random>
 
 namespace quorvel::tools {
@@ -32,5 +34,22 @@ class SampleRandom {
 
   std::mt19937_64 engine_;
 };
+
+// One of `values`, which must stand together and not be empty.
+template <class Values>
+const auto& AnyOf(const Values& values, SampleRandom& random) {
+  return std::data(values)[random.Below(std::ssize(values))];
+}
+
+// The same, each value so often as its weight says.
+template <class Values, class Weight>
+const auto& AnyByWeight(const Values& values, Weight weight, SampleRandom& random) {
+  std::int64_t all = 0;
+  for (const auto& value : values) all += std::invoke(weight, value);
+  std::int64_t left = random.Below(all);
+  const auto* chosen = std::data(values);
+  while ((left -= std::invoke(weight, *chosen)) >= 0) ++chosen;
+  return *chosen;
+}
 
 }  // namespace quorvel::tools

@@ -26,6 +26,20 @@ constexpr Option kOptions[] = {
      "runs that have tasks, steps and commands for all of their stations: the last\n"
      "run of each process, then the newest runs; default: as many as have 20000\n"
      "rows of stations. In the other runs only failed stations have them"},
+    {"communications", "N",
+     "connections, default: those that carried commands of the runs, and one for each\n"
+     "station and day, up to 20000"},
+    {"alarms", "N", "alarms, default: grows with the runs that failed, and with stations and days"},
+    {"saves", "N",
+     "backups: one a day of the server, the others of stations; default one a week of\n"
+     "each station"},
+    {"save-files", "N", "files in all backups, default 9 in each, up to 100000"},
+    {"imports", "N", "runs of user imports, default 3 a day"},
+    {"imported-users", "N", "users in all of them, default up to 24 in each"},
+    {"system", "N", "rows of the scheduler's log, default: two for each run, and 10 a day"},
+    {"attachments", "FOLDER",
+     "where to write files that are attached to the scheduler's log; without it all\n"
+     "attachments are files that are gone"},
     {"now", "DATE", "the present, default 2026-11-20T12:00:00"},
     {"seed", "N", "another number gives another history, default 1"},
 };
@@ -52,6 +66,14 @@ SampleOptions ReadOptions(const CommandLine& line) {
   options.processes = OptionalCount(line, "processes", 1, 100'000);
   options.stationRows = OptionalCount(line, "rows", 0, kMostRows);
   options.detailRuns = OptionalCount(line, "detail-runs", 0, kMostRows);
+  options.communications = OptionalCount(line, "communications", 0, kMostRows);
+  options.alarms = OptionalCount(line, "alarms", 0, kMostRows);
+  options.saves = OptionalCount(line, "saves", 0, kMostRows);
+  options.saveFiles = OptionalCount(line, "save-files", 0, kMostRows);
+  options.imports = OptionalCount(line, "imports", 0, kMostRows);
+  options.importedUsers = OptionalCount(line, "imported-users", 0, kMostRows);
+  options.systemRows = OptionalCount(line, "system", 0, kMostRows);
+  options.attachments = line.Text("attachments").value_or("");
   options.now = line.Date("now").value_or(options.now);
   const auto seed = line.Number("seed", 0, std::numeric_limits<std::int64_t>::max());
   if (seed) options.seed = static_cast<std::uint64_t>(*seed);
