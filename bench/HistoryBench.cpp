@@ -88,7 +88,7 @@ bool MeasureTrees(const std::filesystem::path& history) {
   datasource::ErrorsProcess errors(platform);
   const auto build = [&] {
     widgets::TreeView tree("tvMotherList");
-    return Seconds([&] { tree::AppendProcessNodes(rows, kRows, platform, errors, tree); });
+    return Seconds([&] { tree::AppendProcessNodes(rows, kRows, "0123", platform, errors, tree); });
   };
   kept &= Report("  the tree alone, from ready columns / bare loop", Compare(build, readAll), kBuildLimit);
   bench::ComparePeersOfTree(rows, kRows);

@@ -15,8 +15,10 @@ class NodeRows : public widgets::RowSource {
     const auto children = tree.Children(parent);
     rows_.reserve(children.size());
     for (const widgets::NodeId child : children) {
-      rows_.push_back(
-          {texts_.Append(tree.Key(child)), texts_.Append(tree.Text(child)), texts_.Append(tree.Image(child))});
+      rows_.push_back({texts_.Append(tree.Key(child)),
+                       texts_.Append(tree.Text(child)),
+                       texts_.Append(tree.Image(child)),
+                       {tree.ForeColour(child), tree.IsBold(child)}});
     }
   }
 
@@ -29,12 +31,14 @@ class NodeRows : public widgets::RowSource {
     return texts_.View(rows_[row].text);
   }
   std::string_view Icon(std::size_t row) const override { return texts_.View(rows_[row].icon); }
+  widgets::RowLook Look(std::size_t row) const override { return rows_[row].look; }
 
  private:
   struct Row {
     widgets::TextArena::Ref key;
     widgets::TextArena::Ref text;
     widgets::TextArena::Ref icon;
+    widgets::RowLook look;
   };
   widgets::TextArena texts_;
   std::vector<Row> rows_;
@@ -42,8 +46,13 @@ class NodeRows : public widgets::RowSource {
 
 }  // namespace
 
-std::shared_ptr<const widgets::RowSource> ChildRows(const widgets::TreeView& tree, widgets::NodeId node) {
+Rows ChildRows(const widgets::TreeView& tree, widgets::NodeId node) {
   return std::make_shared<NodeRows>(tree, node);
+}
+
+Headers SubNodeHeaders(std::string_view caption, widgets::Twips listWidth) {
+  constexpr widgets::Twips kMargin = 40;
+  return {TextHeader(caption, listWidth / 2 - kMargin)};
 }
 
 }  // namespace quorvel::list

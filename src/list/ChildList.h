@@ -1,15 +1,18 @@
-// The list that shows the children of a tree node as they stand.
+// The lists that show the children of a tree node as they stand.
 #pragma once
 
-#include <memory>
+#include <string_view>
 
-#include "widgets/ListView.h"
+#include "list/ListParts.h"
 #include "widgets/TreeView.h"
 
 namespace quorvel::list {
 
-// A row for each child of `node`: its text, key and image. The texts are taken over, so the rows stay when the tree
-// changes.
-std::shared_ptr<const widgets::RowSource> ChildRows(const widgets::TreeView& tree, widgets::NodeId node);
+// A row for each child of `node`: its text, key, image, colour and weight. The texts are taken over, so the rows stay
+// when the tree changes.
+Rows ChildRows(const widgets::TreeView& tree, widgets::NodeId node);
+
+// The one column of ListAllSubNodes, in a list so wide, which leaves room to read on beside short texts.
+Headers SubNodeHeaders(std::string_view caption, widgets::Twips listWidth);
 
 }  // namespace quorvel::list

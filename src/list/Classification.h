@@ -28,6 +28,11 @@ inline constexpr std::string_view kUserNotOkCaption = "Not Ok";
 // Name of station 0, which stands for a run without a population.
 inline constexpr std::string_view kWithoutPopulation = "Without population";
 
+// A connection's or backup's station by its recorded name, which is empty where the station is not known any more.
+inline std::string_view NamedStation(std::string_view name) {
+  return name.empty() ? std::string_view("Unknown station") : name;
+}
+
 // An icon key and a state caption; both live forever.
 struct Classified {
   std::string_view icon;

@@ -17,15 +17,18 @@ constexpr Classified kCommandOutcomes[] = {
     {"Command", ""},
 };
 
+// Which commands are judged by their result code; the others are by their flags.
+enum class JudgedByResult { kTransfers, kAll };
+
 bool IsFileTransfer(std::int32_t kind) {
   return kind >= 88 && kind <= 90;
 }
 
-const Classified& ClassifyCommand(const CommandLogRecords& rows, std::size_t row) {
+const Classified& ClassifyCommand(const CommandLogRecords& rows, std::size_t row, JudgedByResult which) {
   const bool inProgress = rows.bInProgress[row] != 0;
   bool ok = rows.bResultOk[row] != 0;
   bool notOk = rows.bResultNotOk[row] != 0;
-  if (IsFileTransfer(rows.lngKind[row])) {
+  if (which == JudgedByResult::kAll || IsFileTransfer(rows.lngKind[row])) {
     notOk = IsFilesTransferLogError(rows.lngKind[row], rows.lngResult[row]);
     ok = !notOk;
   }
@@ -34,7 +37,9 @@ const Classified& ClassifyCommand(const CommandLogRecords& rows, std::size_t row
 
 class CommandRows final : public RecordRows<CommandLogRecords> {
  public:
-  using RecordRows::RecordRows;
+  CommandRows(const CommandLogRecords& records, std::int32_t count, std::string nodeKey, const Platform& platform,
+              JudgedByResult judged)
+      : RecordRows(records, count, std::move(nodeKey), platform), judged_(judged) {}
 
   void AppendKey(std::size_t row, std::string& out) const override { AppendIdKey(records().lngCommandLogId[row], out); }
 
@@ -53,15 +58,20 @@ class CommandRows final : public RecordRows<CommandLogRecords> {
       case 5:
         return records().dtEndDate[row];
       default:
-        return ClassifyCommand(records(), row).caption;
+        return Classify(row).caption;
     }
   }
 
-  std::string_view Icon(std::size_t row) const override { return ClassifyCommand(records(), row).icon; }
+  std::string_view Icon(std::size_t row) const override { return Classify(row).icon; }
 
   widgets::RowLook Look(std::size_t row) const override {
-    return ErrorLook(ClassifyCommand(records(), row).caption == kUserNotOkCaption);
+    return ErrorLook(Classify(row).caption == kUserNotOkCaption);
   }
+
+ private:
+  const Classified& Classify(std::size_t row) const { return ClassifyCommand(records(), row, judged_); }
+
+  JudgedByResult judged_;
 };
 
 }  // namespace
@@ -79,7 +89,19 @@ Headers CommandListHeaders() {
 
 Rows CommandListRows(const CommandLogRecords& records, std::int32_t count, std::string_view nodeKey,
                      const Platform& platform) {
-  return MakeRows<CommandRows>("GetCommandLogByStepLog", records, count, nodeKey, platform);
+  return MakeRows<CommandRows>("GetCommandLogByStepLog", records, count, nodeKey, platform, JudgedByResult::kTransfers);
+}
+
+// The same columns on either way to a command; the first caption alone tells the lists apart.
+Headers ConnectionCommandListHeaders() {
+  Headers headers = CommandListHeaders();
+  headers.front().caption = "Connection command";
+  return headers;
+}
+
+Rows ConnectionCommandListRows(const CommandLogRecords& records, std::int32_t count, std::string_view nodeKey,
+                               const Platform& platform) {
+  return MakeRows<CommandRows>("GetCommandLogByCommunication", records, count, nodeKey, platform, JudgedByResult::kAll);
 }
 
 }  // namespace quorvel::list

@@ -26,6 +26,7 @@ using Rows = std::shared_ptr<const widgets::RowSource>;
 
 inline constexpr widgets::Twips kReportWidth = 5000;
 inline constexpr widgets::Twips kDateWidth = 2250;
+inline constexpr widgets::Twips kWideNumber = 1300;
 
 inline widgets::ColumnHeader TextHeader(std::string_view caption, widgets::Twips width = widgets::kDefaultColumnWidth) {
   return {.caption = std::string(caption), .width = width};
@@ -38,6 +39,10 @@ inline widgets::ColumnHeader NumberHeader(std::string_view caption, widgets::Twi
           .width = width,
           .alignment = widgets::Alignment::kRight,
           .tag = widgets::ColumnTag::kNumbers};
+}
+// Texts that sort as what they tell, see DurationText.
+inline widgets::ColumnHeader DurationHeader() {
+  return {.caption = "Duration", .width = 1200, .alignment = widgets::Alignment::kRight};
 }
 
 // The look of a row, which stands out when it failed.
@@ -81,6 +86,7 @@ class RecordRows : public widgets::RowSource {
   const Records& records() const { return records_; }
   // The key of the node that the list stands for.
   const std::string& nodeKey() const { return nodeKey_; }
+  const Platform& platform() const { return platform_; }
 
   // "id|NODE"
   void AppendIdKey(std::int32_t id, std::string& out) const {

@@ -93,11 +93,6 @@ class StationRunRows final : public AnyRunRows {
 };
 
 constexpr widgets::Twips kStatusWidth = 3400;
-constexpr widgets::Twips kWideNumber = 1300;
-
-widgets::ColumnHeader DurationHeader() {
-  return {.caption = "Duration", .width = 1200, .alignment = widgets::Alignment::kRight};
-}
 
 }  // namespace
 

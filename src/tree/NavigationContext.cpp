@@ -1,11 +1,11 @@
 #include "tree/NavigationContext.h"
 
-#include <algorithm>
 #include <initializer_list>
 #include <span>
 #include <vector>
 
 #include "tree/NodeKey.h"
+#include "util/KeyDates.h"
 #include "util/PublicFunctions.h"
 
 namespace quorvel::tree {
@@ -30,13 +30,6 @@ widgets::NodeId RunNode(std::string_view key, std::size_t fields, const widgets:
   const int levels = fields == kRunFields ? 0 : fields == kTaskFields ? 1 : 2;
   for (int level = 0; level < levels && node != widgets::NodeId::kNone; ++level) node = tree.Parent(node);
   return node;
-}
-
-std::string SlashedDate(DateValue date, bool withDay) {
-  std::string text = FormatFixedDate(date);
-  std::ranges::replace(text, '-', '/');
-  constexpr std::size_t kYearAndMonth = 7;
-  return withDay ? text : text.substr(0, kYearAndMonth);
 }
 
 }  // namespace
@@ -70,9 +63,9 @@ std::string NavigationContext::UsersKey() const {
 }
 
 std::string NavigationContext::ConnectionsKey(DateValue connectionDate, std::int32_t communicationId) const {
-  return MakeKey(kCommunicationPrefix, SlashedDate(connectionDate, false), SlashedDate(connectionDate, true),
-                 communicationId, ContextProcess, ContextFlag, ContextRun, ContextState, ContextUser, ContextTask,
-                 ContextStepLog, ContextStep, "");
+  return MakeKey(kCommunicationPrefix, util::FieldOfDate(connectionDate, util::DateField::kMonth),
+                 util::FieldOfDate(connectionDate, util::DateField::kDay), communicationId, ContextProcess, ContextFlag,
+                 ContextRun, ContextState, ContextUser, ContextTask, ContextStepLog, ContextStep, "");
 }
 
 }  // namespace quorvel::tree

@@ -5,41 +5,32 @@
 //   LCOMM | month | day | communication                                     connections
 //   LOGALRM | owner | day, and LOGAUSR, LOGA1USR, LOGAALL | owner           alarms
 //   LIMP  | import | name | process | run                                   user imports
-//   LBCKSR, LBCKST | ...                                                    backups of the server, of stations
+//   LBCKSR, LBCKST | place | user | year | month | day | name | save | time | result | folder
+//                                                                           backups of the server, of stations
 //   HSYS  | log                                                             rows of the system log
 //
-// flag: 1 = the run is on a station, 0 = on the server. state: a StateGroup code. month "yyyy/mm", day "yyyy/mm/dd".
+// flag, place: 1 = on a station, 0 = on the server. state: a StateGroup code. year "yyyy", month "yyyy/mm", day
+// "yyyy/mm/dd". result: 1 = OK, 0 = not. Names and folders are written by FieldOfName.
 // Keys are the only link between a node and its records; PublicFunctions reads and matches them.
 #pragma once
 
-#include <algorithm>
 #include <concepts>
 #include <string>
 #include <string_view>
 
+#include "util/KeyNames.h"
 #include "util/KeyPrefixes.h"
 #include "util/PublicFunctions.h"
 
 namespace quorvel::tree {
 
+using util::FieldOfName;
 using util::kCommunicationPrefix;
 using util::kProcessPrefix;
+using util::kServerBackupPrefix;
+using util::kStationBackupPrefix;
 using util::kUserPrefix;
-
-// Stands in a key for a "|" that is part of a name.
-inline constexpr char kSeparatorInName = '\x1F';
-
-// A name as a field of a key, and the name that a field stands for.
-inline std::string FieldOfName(std::string_view name) {
-  std::string field(name);
-  std::ranges::replace(field, util::kKeySeparator.front(), kSeparatorInName);
-  return field;
-}
-inline std::string NameOfField(std::string_view field) {
-  std::string name(field);
-  std::ranges::replace(name, kSeparatorInName, util::kKeySeparator.front());
-  return name;
-}
+using util::NameOfField;
 
 // Appends "|" and a field.
 inline void AppendField(std::string& key, std::string_view field) {

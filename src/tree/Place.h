@@ -19,7 +19,8 @@ struct PlaceStep {
 // The way from a root to a node; empty = nowhere.
 using Place = std::vector<PlaceStep>;
 
-// Where a node stands; nowhere for kNone.
+// Where a node stands, in all the levels that its key names, whether the tree shows each of them or not; nowhere for
+// kNone.
 Place PlaceOf(const widgets::TreeView& tree, widgets::NodeId node);
 
 // Where a node of that key would stand: at each length that keys of its view have. Keys of other views are one step.
@@ -34,5 +35,10 @@ std::string KeyAt(const widgets::TreeView& tree, widgets::NodeId parent, const P
 
 // The child of `parent` (kNone = the root) at a step; kNone when there is none. Looks through the children.
 widgets::NodeId ChildAt(const widgets::TreeView& tree, widgets::NodeId parent, const PlaceStep& step);
+
+// The child of `parent` (kNone = the root) on a way of which step `index` comes next: at that step, or at it and those
+// that follow as one, where the tree leaves levels out. Sets `index` to the last step taken. kNone when there is none.
+widgets::NodeId ChildOnWay(const widgets::TreeView& tree, widgets::NodeId parent, const Place& place,
+                           std::size_t& index);
 
 }  // namespace quorvel::tree

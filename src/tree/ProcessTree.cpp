@@ -9,6 +9,7 @@
 #include "list/StationRecord.h"
 #include "tree/NodeKey.h"
 #include "tree/Place.h"
+#include "tree/RootOrder.h"
 #include "tree/RunNode.h"
 #include "tree/StateGroups.h"
 
@@ -36,9 +37,10 @@ class ProcessTreeBuilder {
                      datasource::ErrorsProcess& errors, widgets::TreeView& tree)
       : rows_(rows), platform_(platform), errors_(errors), tree_(tree) {}
 
-  void Build(std::size_t count) {
-    for (std::size_t row = 0; row < count; ++row) {
-      const bool otherProcess = row == 0 || rows_.lngProcessId[row] != rows_.lngProcessId[row - 1];
+  // The rows of whole processes.
+  void Build(RowSpan span) {
+    for (std::size_t row = span.first; row < span.last; ++row) {
+      const bool otherProcess = row == span.first || rows_.lngProcessId[row] != rows_.lngProcessId[row - 1];
       const bool otherRun = otherProcess || rows_.lngProcessLogId[row] != rows_.lngProcessLogId[row - 1];
       if (otherRun) CloseRun();
       if (otherProcess) OpenProcess(row);
@@ -131,12 +133,15 @@ std::int32_t ReadRunKey(std::string_view key) {
   return util::IdentifiantNumber(key, 4);
 }
 
-void AppendProcessNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, const Platform& platform,
-                        datasource::ErrorsProcess& errors, widgets::TreeView& tree) {
+void AppendProcessNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, std::string_view groupBy,
+                        const Platform& platform, datasource::ErrorsProcess& errors, widgets::TreeView& tree) {
   if (count <= 0) return;
   const auto rowCount = static_cast<std::size_t>(count);
   datasource::RequireColumns("GetProcessLogs", rows, rowCount);
-  tree.InBatch([&] { ProcessTreeBuilder(rows, platform, errors, tree).Build(rowCount); });
+  tree.InBatch([&] {
+    ProcessTreeBuilder builder(rows, platform, errors, tree);
+    for (const RowSpan span : ArrangeProcesses(rows, rowCount, groupBy)) builder.Build(span);
+  });
 }
 
 void AppendStationNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, NodeId group,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -25,9 +26,11 @@ inline std::string RunKey(std::string_view parentKey, const datasource::ProcessL
 }
 
 // "2026-11-20 23:05:07 (Batch No.345)": people know the number without a blank before it.
+inline std::string BatchText(const Platform& platform, DateValue date, std::int32_t batch) {
+  return util::strFormatDateTime(platform, date, util::kDateAndTime) + " (Batch No." + std::to_string(batch) + ")";
+}
 inline std::string RunText(const Platform& platform, const datasource::ProcessLogRecords& rows, std::size_t row) {
-  return util::strFormatDateTime(platform, rows.dtStartDate[row], util::kDateAndTime) + " (Batch No." +
-         std::to_string(rows.lngProcessLogId[row]) + ")";
+  return BatchText(platform, rows.dtStartDate[row], rows.lngProcessLogId[row]);
 }
 
 }  // namespace quorvel::tree

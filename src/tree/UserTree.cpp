@@ -6,6 +6,7 @@
 #include "datasource/Contract.h"
 #include "list/StationRecord.h"
 #include "tree/NodeKey.h"
+#include "tree/RootOrder.h"
 #include "tree/RunNode.h"
 #include "tree/StateGroups.h"
 
@@ -32,9 +33,10 @@ class UserTreeBuilder {
  public:
   UserTreeBuilder(const datasource::ProcessLogRecords& rows, widgets::TreeView& tree) : rows_(rows), tree_(tree) {}
 
-  void Build(std::size_t count) {
-    for (std::size_t row = 0; row < count; ++row) {
-      const bool otherStation = row == 0 || rows_.lngUserId[row] != rows_.lngUserId[row - 1];
+  // The rows of whole stations.
+  void Build(RowSpan span) {
+    for (std::size_t row = span.first; row < span.last; ++row) {
+      const bool otherStation = row == span.first || rows_.lngUserId[row] != rows_.lngUserId[row - 1];
       const bool otherProcess = otherStation || rows_.lngProcessId[row] != rows_.lngProcessId[row - 1];
       if (otherProcess) CloseProcess();
       if (otherStation) OpenStation(row);
@@ -43,6 +45,7 @@ class UserTreeBuilder {
     }
     CloseProcess();
     CloseStation();
+    process_ = station_ = NodeId::kNone;
   }
 
  private:
@@ -95,11 +98,15 @@ ProcessOnStation ReadProcessKey(std::string_view key) {
   return {.user = util::IdentifiantNumber(key, 2), .process = util::IdentifiantNumber(key, 3)};
 }
 
-void AppendUserNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, widgets::TreeView& tree) {
+void AppendUserNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, std::string_view groupBy,
+                     widgets::TreeView& tree) {
   if (count <= 0) return;
   const auto rowCount = static_cast<std::size_t>(count);
   datasource::RequireColumns("GetProcessLogByUser", rows, rowCount);
-  tree.InBatch([&] { UserTreeBuilder(rows, tree).Build(rowCount); });
+  tree.InBatch([&] {
+    UserTreeBuilder builder(rows, tree);
+    for (const RowSpan span : ArrangeStations(rows, rowCount, groupBy)) builder.Build(span);
+  });
 }
 
 void AppendRunsOfStation(const datasource::ProcessLogRecords& rows, std::int32_t count, const Platform& platform,

@@ -20,10 +20,11 @@ struct ProcessOnStation {
 // Reads the key of such a node. Errors 13 and 6 for fields that are no numbers.
 ProcessOnStation ReadProcessKey(std::string_view key);
 
-// Appends stations and their processes for the rows of GetProcessLogByUser to `tree`, one pass, in their order: a row
-// is a station's part in a run. A station and a process show the worst that happened in their rows, so that what failed
+// Appends stations and their processes for the rows of GetProcessLogByUser to `tree`, one pass: a row is a station's
+// part in a run. Stations come in the order that `groupBy` arranges, see RootOrder.h. A station and a process show the worst that happened in their rows, so that what failed
 // last night is seen from the top. Processes get a placeholder for their runs. Error 9 when a column lacks rows.
-void AppendUserNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, widgets::TreeView& tree);
+void AppendUserNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, std::string_view groupBy,
+                     widgets::TreeView& tree);
 
 // Appends a node for each row of GetProcessLogByUser under `process`, a process on one station, with a placeholder for
 // the tasks. `platform` formats the dates. Error 9 as above.

@@ -166,13 +166,17 @@ std::vector<std::uint32_t> TextOrder(const ListView& list, std::int32_t column, 
 }  // namespace
 
 void ListViewSortColumn(const Platform& platform, ListView& list, std::size_t column) {
+  const bool isKey = std::cmp_equal(column, list.sortKey() + 1);
+  const bool turned = isKey && list.sortOrder() == SortOrder::kAscending;
+  SortListViewBy(platform, list, column, turned ? SortOrder::kDescending : SortOrder::kAscending);
+}
+
+void SortListViewBy(const Platform& platform, ListView& list, std::size_t column, SortOrder order) {
   Propagating("ListViewSort.ListViewSortColumn", [&] {
     if (column < 1 || column > list.headers().size()) {
       throw Error(SystemError::kIndexOutOfRange, list.name() + " has no such column");
     }
     const auto key = static_cast<std::int32_t>(column - 1);
-    const bool turned = key == list.sortKey() && list.sortOrder() == SortOrder::kAscending;
-    const SortOrder order = turned ? SortOrder::kDescending : SortOrder::kAscending;
     const ColumnTag tag = list.headers()[column - 1].tag;
     std::vector<std::uint32_t> rows;
     if (list.Count() > 1) {

@@ -21,6 +21,9 @@ namespace quorvel::util {
 // list, its sort key and its headers stay as they were then.
 void ListViewSortColumn(const Platform& platform, widgets::ListView& list, std::size_t column);
 
+// Sorts `list` by a column, counted from 1, in this order. The same in all else.
+void SortListViewBy(const Platform& platform, widgets::ListView& list, std::size_t column, widgets::SortOrder order);
+
 // Draws the arrow of the list's sort key and sort order into the header of that column, and no other: the one of dates
 // and numbers or the one of text, up where the rows as they are seen ascend. Width and caption stay.
 void SortListView(widgets::ListView& list);

@@ -33,6 +33,8 @@ void ListView::SetRows(std::shared_ptr<const RowSource> rows) {
   overlay_.clear();
   selection_.Clear();
   selectedItem_.reset();
+  corner_ = {};
+  pending_.scrolled = false;
   pending_.reset = true;
   Settle();
 }
@@ -134,6 +136,13 @@ void ListView::SetSelection(RowRanges selection, std::optional<std::size_t> item
   Settle();
 }
 
+void ListView::ScrollTo(ListCorner corner) {
+  RequireRow(corner.row);
+  corner_ = corner;
+  pending_.scrolled = true;
+  Settle();
+}
+
 void ListView::NoteRow(std::size_t row) {
   const RowRange range{row, row + 1};
   pending_.rows = pending_.rows
@@ -145,6 +154,11 @@ void ListView::Settle() {
   if (batchDepth_ > 0) return;
   const Pending told = std::exchange(pending_, {});
   if (observer_ == nullptr) return;
+  Tell(told);
+  if (told.scrolled) observer_->ListScrolled(corner_);
+}
+
+void ListView::Tell(const Pending& told) {
   if (told.reset) {
     observer_->ListReset();
     return;

@@ -67,6 +67,13 @@ class RowSource {
   virtual std::optional<std::int32_t> NumberOf(std::size_t /*row*/, std::size_t /*column*/) const { return {}; }
 };
 
+// What stands in the upper left corner of a list.
+struct ListCorner {
+  std::size_t row = 0;
+  Twips left = 0;  // how much of the columns is scrolled away
+  friend bool operator==(const ListCorner&, const ListCorner&) = default;
+};
+
 // Draws a list. Hears of a batch of changes once, after all of them were made. Must not change the list from a call,
 // but for its selection.
 class ListObserver {
@@ -80,6 +87,9 @@ class ListObserver {
   // Icon or look of rows within this range changed.
   virtual void RowsChanged(RowRange rows) = 0;
   virtual void ListSelectionChanged() = 0;
+  // The list is to be scrolled to this corner.
+  virtual void ListScrolled(const ListCorner& corner) = 0;
+  virtual ListCorner CornerInSight() const = 0;
 };
 
 // Rows are counted from 0 as they are shown, whatever their order in the source; a row that does not exist is error 9.
@@ -122,7 +132,8 @@ class ListView : public Control {
   std::string Key(std::size_t row) const;
   // Error 9 for a column without a header too.
   std::string Cell(std::size_t row, std::size_t column) const;
-  // For many cells: appends to `out` and checks nothing; row and column must exist.
+  // For many rows and cells: append to `out` and check nothing; row and column must exist.
+  void AppendKey(std::size_t row, std::string& out) const { rows_->AppendKey(SourceRow(row), out); }
   void AppendCell(std::size_t row, std::size_t column, std::string& out) const {
     rows_->AppendCell(SourceRow(row), column, out);
   }
@@ -153,6 +164,10 @@ class ListView : public Control {
   // Replaces the selection. The selected item is `item`, else the first selected row, else none.
   void SetSelection(RowRanges selection, std::optional<std::size_t> item = std::nullopt);
 
+  // The corner in sight, which the observer knows. Other rows are seen from their beginning.
+  ListCorner Corner() const { return observer_ == nullptr ? corner_ : observer_->CornerInSight(); }
+  void ScrollTo(ListCorner corner);
+
   // The sort key counts columns from 0. They say how the rows are sorted when sorting is on.
   std::int32_t sortKey() const { return sortKey_; }
   void SetSortKey(std::int32_t column) { sortKey_ = column; }
@@ -171,6 +186,7 @@ class ListView : public Control {
     bool headers = false;
     bool order = false;
     bool selection = false;
+    bool scrolled = false;
     std::optional<RowRange> rows;
   };
 
@@ -179,6 +195,7 @@ class ListView : public Control {
   void NoteRow(std::size_t row);
   // Outside batches: tells what is pending.
   void Settle();
+  void Tell(const Pending& told);
 
   std::vector<ColumnHeader> headers_;
   std::shared_ptr<const RowSource> rows_;
@@ -186,6 +203,7 @@ class ListView : public Control {
   std::unordered_map<std::size_t, Overlay> overlay_;  // by row of the source
   RowRanges selection_;
   std::optional<std::size_t> selectedItem_;
+  ListCorner corner_;  // where it was scrolled to last
   std::int32_t sortKey_ = 0;
   SortOrder sortOrder_ = SortOrder::kAscending;
   bool sorted_ = false;

@@ -16,6 +16,9 @@ struct RowRange {
 
 class RowRanges {
  public:
+  RowRanges() = default;
+  explicit RowRanges(RowRange range) { Add(range); }
+
   void Add(RowRange range);
   void Remove(RowRange range);
   void Clear() { ranges_.clear(); }

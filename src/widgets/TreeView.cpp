@@ -108,6 +108,7 @@ void TreeView::Remove(NodeId top) {
     texts_.Release(At(node).key);
     texts_.Release(At(node).text);
     if (selected_ == node) Select(NodeId::kNone);
+    if (top_ == node) top_ = NodeId::kNone;
     limbo_.push_back(node);
   }
 }
@@ -123,6 +124,7 @@ void TreeView::Clear() {
   olderSameKey_.clear();
   keysIndexed_ = false;
   selected_ = NodeId::kNone;
+  top_ = NodeId::kNone;
   pending_ = {};
   pending_.structure = Pending::Structure::kReset;
   Settle();
@@ -226,6 +228,12 @@ void TreeView::Select(NodeId node) {
   Settle();
 }
 
+void TreeView::ScrollTo(NodeId top) {
+  top_ = top;
+  pending_.scrolled = true;
+  Settle();
+}
+
 bool TreeView::IsInPendingInsertion(NodeId parent) const {
   if (pending_.structure != Pending::Structure::kInserted) return false;
   for (NodeId node = parent; node != NodeId::kNone; node = Parent(node)) {
@@ -285,6 +293,7 @@ void TreeView::Tell() {
   Pending told = std::exchange(pending_, {});
   if (told.structure == Pending::Structure::kReset) {
     observer_->TreeReset();
+    if (told.scrolled) observer_->TreeScrolled(top_);
     return;
   }
   const auto isGone = [this](NodeId node) { return At(node).removed; };
@@ -295,6 +304,7 @@ void TreeView::Tell() {
   if (!told.changed.empty()) observer_->NodesChanged(told.changed);
   for (const NodeId node : told.expansion) observer_->NodeExpansionChanged(node);
   if (told.selection) observer_->TreeSelectionChanged();
+  if (told.scrolled) observer_->TreeScrolled(top_);
 }
 
 }  // namespace quorvel::widgets

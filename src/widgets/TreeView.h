@@ -40,6 +40,10 @@ class TreeObserver {
   virtual void NodesChanged(std::span<const NodeId> nodes) = 0;
   virtual void NodeExpansionChanged(NodeId node) = 0;
   virtual void TreeSelectionChanged() = 0;
+  // The tree is to be scrolled until this node, which is in the tree, stands first; kNone = to its beginning.
+  virtual void TreeScrolled(NodeId top) = 0;
+  // The first node in sight; kNone while the tree is not scrolled.
+  virtual NodeId TopNode() const = 0;
 };
 
 // Children, parents, rows and keys are found in constant time. Keys need not be unique: every node stays, and a look-up
@@ -117,6 +121,10 @@ class TreeView : public Control {
   NodeId Selected() const { return selected_; }
   void Select(NodeId node);
 
+  // The first node in sight, which the observer knows; kNone while the tree is not scrolled.
+  NodeId Top() const { return observer_ == nullptr ? top_ : observer_->TopNode(); }
+  void ScrollTo(NodeId top);
+
  private:
   // The children of a node: a stretch of childSlots_, which moves to the end when it outgrows its place. A list for
   // each node of its own would cost an allocation for each.
@@ -153,6 +161,7 @@ class TreeView : public Control {
     std::vector<NodeId> changed;
     std::vector<NodeId> expansion;
     bool selection = false;
+    bool scrolled = false;
   };
 
   struct TextHash {
@@ -205,6 +214,7 @@ class TreeView : public Control {
   std::vector<std::string> imageNames_{""};
   std::unordered_map<std::string, std::uint16_t, TextHash, std::equal_to<>> imageNumbers_{{"", std::uint16_t{0}}};
   NodeId selected_ = NodeId::kNone;
+  NodeId top_ = NodeId::kNone;  // where it was scrolled to last
 
   // The newest node of each key, and for a node whose key repeats the next older one. Made at the first look-up:
   // filling a tree that nobody searches costs no hashing.

@@ -8,6 +8,7 @@
 #include "list/TaskList.h"
 #include "support/FakeSources.h"
 #include "support/RecordingPlatform.h"
+#include "support/RowText.h"
 
 namespace quorvel::list {
 namespace {
@@ -17,16 +18,8 @@ using test::MakeTexts;
 
 class ListsTest : public testing::Test {
  protected:
-  // "icon key: cell, cell" with "!" before a row that failed.
-  std::string Row(const Rows& rows, std::size_t row, const Headers& headers) {
-    std::string text = rows->Look(row).bold ? "!" : "";
-    text.append(rows->Icon(row)).append(" ");
-    rows->AppendKey(row, text);
-    for (std::size_t column = 0; column < headers.size(); ++column) {
-      text.append(column == 0 ? ": " : ", ");
-      rows->AppendCell(row, column, text);
-    }
-    return text;
+  static std::string Row(const Rows& rows, std::size_t row, const Headers& headers) {
+    return test::RowText(rows, row, headers);
   }
 
   test::RecordingPlatform platform;

@@ -22,7 +22,7 @@ using widgets::NodeId;
 class ProcessTreeTest : public testing::Test {
  protected:
   std::string Build(const StationRows& rows) {
-    AppendProcessNodes(rows.Records(), rows.count(), platform, errors, tree);
+    AppendProcessNodes(rows.Records(), rows.count(), "0123", platform, errors, tree);
     return test::TreeText(tree);
   }
   std::int32_t ErrorOf(const std::function<void()>& action) {
@@ -78,10 +78,10 @@ TEST_F(ProcessTreeTest, ARunThatComesAgainIsANewNode) {
 TEST_F(ProcessTreeTest, RefusesAComponentThatLeavesRowsOut) {
   StationRows rows;
   rows.Station(12, 1, 7, StationRows::kOk);
-  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(rows.Records(), 2, platform, errors, tree); }), 9);
+  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(rows.Records(), 2, "0123", platform, errors, tree); }), 9);
   auto records = rows.Records();
   records.bResultUnknown = {};
-  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(records, 1, platform, errors, tree); }), 9);
+  EXPECT_EQ(ErrorOf([&] { AppendProcessNodes(records, 1, "0123", platform, errors, tree); }), 9);
   EXPECT_EQ(tree.Count(), 0U);
 }
 

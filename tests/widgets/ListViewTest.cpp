@@ -39,6 +39,8 @@ class Listener : public ListObserver {
     heard += "rows " + std::to_string(rows.first) + "-" + std::to_string(rows.last) + " ";
   }
   void ListSelectionChanged() override { heard += "selection "; }
+  void ListScrolled(const ListCorner& corner) override { heard += "scrolled " + std::to_string(corner.row) + " "; }
+  ListCorner CornerInSight() const override { return {}; }
   std::string heard;
 };
 

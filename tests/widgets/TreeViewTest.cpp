@@ -30,6 +30,8 @@ class Listener : public TreeObserver {
   }
   void NodeExpansionChanged(NodeId node) override { heard += tree_.IsExpanded(node) ? "opened " : "closed "; }
   void TreeSelectionChanged() override { heard += "selected "; }
+  void TreeScrolled(NodeId top) override { heard += "scrolled to " + std::string(tree_.Key(top)) + " "; }
+  NodeId TopNode() const override { return NodeId::kNone; }
 
   std::string heard;
 

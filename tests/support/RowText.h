@@ -1,0 +1,29 @@
+// A row of a list as text: "icon key: cell, cell" with "!" before a row that stands out.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "list/ListParts.h"
+
+namespace quorvel::test {
+
+inline std::string RowText(const list::Rows& rows, std::size_t row, const list::Headers& headers) {
+  std::string text = rows->Look(row).bold ? "!" : "";
+  text.append(rows->Icon(row)).append(" ");
+  rows->AppendKey(row, text);
+  for (std::size_t column = 0; column < headers.size(); ++column) {
+    text.append(column == 0 ? ": " : ", ");
+    rows->AppendCell(row, column, text);
+  }
+  return text;
+}
+
+// The captions of the headers, joined the same way.
+inline std::string CaptionsText(const list::Headers& headers) {
+  std::string text;
+  for (const widgets::ColumnHeader& header : headers) text.append(text.empty() ? "" : ", ").append(header.caption);
+  return text;
+}
+
+}  // namespace quorvel::test
