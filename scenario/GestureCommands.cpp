@@ -80,14 +80,15 @@ void Refresh(Session& session, Arguments /*arguments*/, std::ostream& /*out*/) {
   session.viewer().Press(UsableControl<widgets::Button>(session, "cmdRefresh", "button"));
 }
 
+void Spin(Session& session, const std::string& name, const std::string& way) {
+  auto& upDown = UsableControl<widgets::UpDown>(session, name, "up-down");
+  if (way != "up" && way != "down") throw ScriptError("Neither up nor down: " + way);
+  session.viewer().Spin(upDown, way == "up");
+}
+
 void Press(Session& session, Arguments arguments, std::ostream& /*out*/) {
-  if (arguments.size() == 1) {
-    session.viewer().Press(UsableControl<widgets::Button>(session, arguments[0], "button"));
-    return;
-  }
-  auto& upDown = UsableControl<widgets::UpDown>(session, arguments[0], "up-down");
-  if (arguments[1] != "up" && arguments[1] != "down") throw ScriptError("Neither up nor down: " + arguments[1]);
-  session.viewer().Spin(upDown, arguments[1] == "up");
+  if (arguments.size() == 2) return Spin(session, arguments[0], arguments[1]);
+  session.viewer().Press(UsableControl<widgets::Button>(session, arguments[0], "button"));
 }
 
 // What is open already, or closed already, stays as it is.
@@ -115,10 +116,14 @@ std::size_t RowOf(const widgets::ListView& list, const std::string& key) {
   return *row;
 }
 
-void DoubleClick(Session& session, Arguments arguments, std::ostream& /*out*/) {
+std::size_t ShownRow(Session& session, const std::string& key) {
   const widgets::ListView& list = Controls(session).lvMotherList;
   RequireUsable(session, list);
-  session.viewer().DoubleClickRow(RowOf(list, arguments[0]));
+  return RowOf(list, key);
+}
+
+void DoubleClick(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  session.viewer().DoubleClickRow(ShownRow(session, arguments[0]));
 }
 
 // Columns are counted from 1 in scripts.
@@ -166,11 +171,31 @@ void Drop(Session& session, Arguments /*arguments*/, std::ostream& /*out*/) {
   session.viewer().ReleaseGrip();
 }
 
+// Chooses a row of the group order, counted from 0, and moves it.
+void MoveGroup(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  auto& list = UsableControl<widgets::ListBox>(session, "lstGroupBy", "list");
+  const std::int32_t row = NumberOf(arguments[0]);
+  if (row < 0 || row >= static_cast<std::int32_t>(list.items().size()))
+    throw ScriptError("No such row: " + arguments[0]);
+  session.viewer().ChooseItem(list, static_cast<std::size_t>(row));
+  Spin(session, "updGroupBy", arguments[1]);
+}
+
+void Focus(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  if (arguments[0] == "none") return session.viewer().MoveFocus(nullptr);
+  const widgets::Control& pane = *PaneNamed(Controls(session), arguments[0]);
+  RequireUsable(session, pane);
+  session.viewer().MoveFocus(&pane);
+}
+
 void Size(Session& session, Arguments arguments, std::ostream& /*out*/) {
   session.viewer().Resize(NumberOf(arguments[0]), NumberOf(arguments[1]));
 }
 
+// The tree, to a node; the list, to a row; or a scroll bar.
 void Scroll(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  if (arguments[0] == "tree") return session.viewer().ScrollTree(ShownNode(session, arguments[1]));
+  if (arguments[0] == "list") return session.viewer().ScrollList(ShownRow(session, arguments[1]));
   auto& bar = UsableControl<widgets::ScrollBar>(session, arguments[0], "scroll bar");
   session.viewer().Scroll(bar, NumberOf(arguments[1]));
 }
@@ -189,8 +214,10 @@ constexpr CommandEntry kCommands[] = {
     {"widen", "COLUMN TWIPS", 2, 2, Widen},
     {"drag", "TWIPS [hold]", 1, 2, Drag},
     {"drop", "", 0, 0, Drop},
+    {"group", "ROW up|down", 2, 2, MoveGroup},
+    {"focus", "tree|list|none", 1, 1, Focus},
     {"size", "WIDTH HEIGHT", 2, 2, Size},
-    {"scroll", "SCROLLBAR VALUE", 2, 2, Scroll},
+    {"scroll", "SCROLLBAR VALUE | tree KEY | list KEY", 2, 2, Scroll},
 };
 
 }  // namespace

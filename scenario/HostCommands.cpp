@@ -1,5 +1,7 @@
 // Commands for what a host programmer does: properties and methods.
+#include <array>
 #include <charconv>
+#include <tuple>
 
 #include "platform/Error.h"
 #include "scenario/Commands.h"
@@ -7,6 +9,10 @@
 
 namespace quorvel::scenario {
 namespace {
+
+std::string FlagText(bool value) {
+  return value ? "1" : "0";
+}
 
 struct Property {
   std::string_view name;
@@ -26,6 +32,23 @@ constexpr Property kProperties[] = {
      [](ucProcessLog& viewer, std::string_view value) { viewer.p_IdAppLog(NumberOf(value)); }},
     {"p_Key", [](const ucProcessLog& viewer) { return viewer.p_Key(); },
      [](ucProcessLog& viewer, std::string_view value) { viewer.p_Key(value); }},
+    {"p_TabStripVisible", nullptr,
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_TabStripVisible(FlagOf(value)); }},
+    {"p_blnShowUserInfo", [](const ucProcessLog& viewer) { return FlagText(viewer.p_blnShowUserInfo()); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_blnShowUserInfo(FlagOf(value)); }},
+    {"p_blnShowProcessAlarm", [](const ucProcessLog& viewer) { return FlagText(viewer.p_blnShowProcessAlarm()); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_blnShowProcessAlarm(FlagOf(value)); }},
+    {"p_blnShowAlarms", [](const ucProcessLog& viewer) { return FlagText(viewer.p_blnShowAlarms()); },
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_blnShowAlarms(FlagOf(value)); }},
+    {"p_strHelpFile", nullptr, [](ucProcessLog& viewer, std::string_view value) { viewer.p_strHelpFile(value); }},
+    {"p_ConsoleLoginUserName", nullptr,
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_ConsoleLoginUserName(value); }},
+    {"p_ConsoleLoginUserRight", nullptr,
+     [](ucProcessLog& viewer, std::string_view value) { viewer.p_ConsoleLoginUserRight(NumberOf(value)); }},
+    {"ListItems", [](const ucProcessLog& viewer) { return std::to_string(viewer.ListItems().Count()); }, nullptr},
+    {"SelectedItem",
+     [](const ucProcessLog& viewer) { return viewer.SelectedItem() ? viewer.SelectedItem()->Key() : std::string(); },
+     nullptr},
     {"p_ListCount", [](const ucProcessLog& viewer) { return std::to_string(viewer.p_ListCount()); }, nullptr},
     {"p_ServerName", nullptr, [](ucProcessLog& viewer, std::string_view value) { viewer.p_ServerName(value); }},
 };
@@ -57,6 +80,33 @@ struct Method {
   void (*call)(ucProcessLog& viewer, Arguments arguments, std::ostream& out);
 };
 
+void PrintMenuState(ucProcessLog& viewer, Arguments /*arguments*/, std::ostream& out) {
+  std::array<bool, 13> flags{};
+  flags.fill(true);
+  std::apply([&](auto&... each) { viewer.m_GetMenuState(each...); }, flags);
+  for (const bool flag : flags) out << FlagText(flag);
+  out << '\n';
+}
+
+// Without arguments as a host that opens imports does.
+void GetLogByImports(ucProcessLog& viewer, Arguments arguments, std::ostream& out) {
+  if (arguments.size() != 0 && arguments.size() != 3)
+    throw ScriptError("Use: call m_GetLogByImports [VIEW IMPORT PASSED]");
+  std::array<std::int32_t, 3> values{0, viewer.p_IdAppLog(), 0};
+  for (std::size_t i = 0; i < arguments.size(); ++i) values[i] = NumberOf(arguments[i]);
+  viewer.m_GetLogByImports(values[0], values[1], values[2]);
+  out << "view = " << values[0] << "\nimportId = " << values[1] << "\npassed = " << values[2] << '\n';
+}
+
+// What menu 12 is for scripts, m_MenuCall is for hosts.
+void CallMenu(Session& session, Arguments arguments, std::ostream& out) {
+  CallAsHost(out, [&] {
+    std::int32_t command = NumberOf(arguments[0]);
+    session.viewer().viewer().m_MenuCall(command);
+    if (command != NumberOf(arguments[0])) out << "command = " << command << '\n';
+  });
+}
+
 constexpr Method kMethods[] = {
     {"InitStateListByTab", "", 0, 0,
      [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.InitStateListByTab(); }},
@@ -76,6 +126,24 @@ constexpr Method kMethods[] = {
        viewer.m_GetLogAll(state);
        out << "state = " << static_cast<std::int32_t>(state) << '\n';
      }},
+    {"m_GetLogByAlarms", "[0|1]", 0, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream&) {
+       viewer.m_GetLogByAlarms(!arguments.empty() && FlagOf(arguments[0]));
+     }},
+    {"m_GetLogByCommunication", "[0|1]", 0, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream&) {
+       viewer.m_GetLogByCommunication(!arguments.empty() && FlagOf(arguments[0]));
+     }},
+    {"m_GetLogByBackup", "[0|1]", 0, 1,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream&) {
+       viewer.m_GetLogByBackup(!arguments.empty() && FlagOf(arguments[0]));
+     }},
+    {"m_GetLogByImports", "[VIEW IMPORT PASSED]", 0, 3, GetLogByImports},
+    {"m_GetDetail", "", 0, 0, [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.m_GetDetail(); }},
+    {"m_Open", "", 0, 0, [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.m_Open(); }},
+    {"m_Copy", "", 0, 0, [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.m_Copy(); }},
+    {"m_SelectAll", "", 0, 0, [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.m_SelectAll(); }},
+    {"m_GetMenuState", "", 0, 0, PrintMenuState},
     {"SizeControls", "[WIDTH]", 0, 1,
      [](ucProcessLog& viewer, Arguments arguments, std::ostream& out) {
        if (arguments.empty()) return viewer.SizeControls();
@@ -97,6 +165,7 @@ void Call(Session& session, Arguments arguments, std::ostream& out) {
 constexpr CommandEntry kCommands[] = {
     {"set", "PROPERTY VALUE", 2, 2, Set},
     {"get", "PROPERTY", 1, 1, Get, true},
+    {"menu", "COMMAND", 1, 1, CallMenu, true},
     {"call", "METHOD [ARGUMENT ...]", 1, kAnyNumber, Call, true},
 };
 
@@ -116,6 +185,7 @@ void CallAsHost(std::ostream& out, const std::function<void()>& call) {
     out << "error " << ErrorNumberText(error.number()) << '\n'
         << "source " << Escaped(error.source()) << '\n'
         << "description " << Escaped(error.description()) << '\n';
+    if (!error.helpFile().empty()) out << "help " << Escaped(error.helpFile()) << '\n';
   }
 }
 

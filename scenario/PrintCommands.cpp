@@ -184,6 +184,25 @@ void PrintCaption(Session& session, std::ostream& out) {
   if (seen.visible) out << Escaped(seen.text) << '\n';
 }
 
+// Where the panes are scrolled to, and which of them has the focus.
+void PrintPlaceInSight(Session& session, std::ostream& out) {
+  const ViewerPort& port = session.viewer();
+  const ProcessLogControls& controls = session.viewer().viewer().controls();
+  const NodeId node = port.TopNode();
+  const auto row = port.TopRow();
+  out << "tree\t" << (node == NodeId::kNone ? std::string() : Escaped(controls.tvMotherList.Key(node))) << '\n'
+      << "list\t" << (row ? Escaped(controls.lvMotherList.Key(*row)) : std::string()) << '\n'
+      << "focus\t";
+  for (const std::string_view pane : {"tree", "list"}) {
+    if (port.HasFocus(*PaneNamed(controls, pane))) out << pane;
+  }
+  out << '\n';
+}
+
+void PrintEvents(Session& session, std::ostream& out) {
+  for (const std::string& event : session.TakeEvents()) out << Escaped(event) << '\n';
+}
+
 void PrintClipboard(Session& session, std::ostream& out) {
   out << EscapedLines(session.platform().clipboard());
 }
@@ -207,6 +226,8 @@ constexpr PrintEntry kPrints[] = {
     {"calls", PrintCalls},
     {"caption", PrintCaption},
     {"clipboard", PrintClipboard},
+    {"place", PrintPlaceInSight},
+    {"events", PrintEvents},
 };
 
 void Print(Session& session, Arguments arguments, std::ostream& out) {

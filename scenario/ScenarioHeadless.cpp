@@ -59,6 +59,18 @@ class HeadlessViewer : public ViewerPort {
     return seen;
   }
 
+  NodeId TopNode() const override {
+    const widgets::TreeView& tree = c_.tvMotherList;
+    if (tree.Count() == 0 || tree.Top() != NodeId::kNone) return tree.Top();
+    return tree.Child(NodeId::kNone, 0);
+  }
+
+  std::optional<std::size_t> TopRow() const override {
+    return c_.lvMotherList.Count() == 0 ? std::nullopt : std::optional(c_.lvMotherList.Corner().row);
+  }
+
+  bool HasFocus(const widgets::Control& control) const override { return focus_ == &control; }
+
   bool IsOpen(NodeId node) const override { return c_.tvMotherList.IsExpanded(node); }
 
   std::vector<SeenHeader> Headers() const override {
@@ -102,9 +114,25 @@ class HeadlessViewer : public ViewerPort {
     if (&combo == &c_.cboDuringUnit) viewer_.cboDuringUnit_Click();
   }
 
-  void Type(widgets::TextBox& box, std::string_view text) override { box.SetText(text); }
-  void Pick(widgets::DateTimePicker& picker, DateValue value) override { picker.SetValue(value); }
-  void Check(widgets::CheckBox& box, bool checked) override { box.SetChecked(checked); }
+  void ChooseItem(widgets::ListBox& list, std::size_t row) override { list.Select(row); }
+
+  void Type(widgets::TextBox& box, std::string_view text) override {
+    box.SetText(text);
+    viewer_.txtDuring_Change();
+  }
+
+  void Pick(widgets::DateTimePicker& picker, DateValue value) override {
+    picker.SetValue(value);
+    &picker == &c_.dtpDate ? viewer_.dtpDate_Change() : viewer_.dtpHour_Change();
+  }
+
+  void Check(widgets::CheckBox& box, bool checked) override {
+    if (box.checked() == checked) return;
+    box.SetChecked(checked);
+    if (&box == &c_.chkCommunicationsFilter) viewer_.chkCommunicationsFilter_Click();
+    if (&box == &c_.chkGroupByDay) viewer_.chkGroupByDay_Click();
+    if (&box == &c_.chkAlarmFilter) viewer_.chkAlarmFilter_Click();
+  }
 
   void Press(widgets::Button& button) override {
     if (&button == &c_.cmdRefresh) viewer_.cmdRefresh_Click();
@@ -112,6 +140,7 @@ class HeadlessViewer : public ViewerPort {
 
   void Spin(widgets::UpDown& upDown, bool up) override {
     if (&upDown == &c_.updDuring) up ? viewer_.updDuring_UpClick() : viewer_.updDuring_DownClick();
+    if (&upDown == &c_.updGroupBy) up ? viewer_.updGroupBy_UpClick() : viewer_.updGroupBy_DownClick();
   }
 
   void SetOpen(NodeId node, bool open) override {
@@ -144,6 +173,18 @@ class HeadlessViewer : public ViewerPort {
     &bar == &c_.HScroll ? viewer_.HScroll_Change() : viewer_.VScroll_Change();
   }
 
+  void ScrollTree(NodeId top) override { c_.tvMotherList.ScrollTo(top); }
+  void ScrollList(std::size_t top) override { c_.lvMotherList.ScrollTo({top, 0}); }
+
+  void MoveFocus(const widgets::Control* control) override {
+    const widgets::Control* const before = std::exchange(focus_, control);
+    if (before == control) return;
+    if (before == &c_.tvMotherList) viewer_.tvMotherList_LostFocus();
+    if (before == &c_.lvMotherList) viewer_.lvMotherList_LostFocus();
+    if (control == &c_.tvMotherList) viewer_.tvMotherList_GotFocus();
+    if (control == &c_.lvMotherList) viewer_.lvMotherList_GotFocus();
+  }
+
  private:
   bool IsShown(const widgets::Control& control) const {
     const widgets::Rect& place = control.bounds();
@@ -163,6 +204,7 @@ class HeadlessViewer : public ViewerPort {
 
   ucProcessLog viewer_;
   ProcessLogControls& c_ = viewer_.controls();
+  const widgets::Control* focus_ = nullptr;
 };
 
 }  // namespace

@@ -50,8 +50,4 @@ void ScenarioPlatform::RenameFile(const std::filesystem::path& file, const std::
   StandardPlatform::RenameFile(file, newName);
 }
 
-std::string ScenarioPlatform::CurrentAccount() const {
-  return "SCENARIO\\operator";
-}
-
 }  // namespace quorvel::scenario

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,6 +27,8 @@ class ScenarioPlatform : public StandardPlatform {
   ScenarioPlatform(Faults& faults, ScenarioPort& port) : faults_(faults), port_(port) {}
 
   void SetNow(DateValue now) { now_ = now; }
+  // Who works at the system; nothing = it does not say.
+  void SetAccount(std::optional<Account> account) { account_ = std::move(account); }
   // Whether the host has a status bar.
   void SetHostStatusBar(bool present) { statusBar_ = present; }
 
@@ -44,7 +47,7 @@ class ScenarioPlatform : public StandardPlatform {
   std::filesystem::path TemporaryFolder() const override;
   void DeleteFile(const std::filesystem::path& file) override;
   void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) override;
-  std::string CurrentAccount() const override;
+  std::optional<Account> CurrentAccount() const override { return account_; }
 
  private:
   Faults& faults_;
@@ -52,6 +55,7 @@ class ScenarioPlatform : public StandardPlatform {
   PrivateFolder folder_;
   DateValue now_ = DateFromCivil({2026, 11, 20, 12, 0, 0});
   bool statusBar_ = true;
+  std::optional<Account> account_ = Account{"SCENARIO", "operator"};
   std::vector<ShownMessage> messages_;
   std::vector<MousePointer> pointers_;
   std::string clipboard_;

@@ -75,11 +75,16 @@ class ViewerPort {
   virtual bool IsOpen(widgets::NodeId node) const = 0;
   virtual std::vector<SeenHeader> Headers() const = 0;
   virtual std::vector<SeenRow> Rows() const = 0;
+  // The first node and the first row in sight; none while there is none.
+  virtual widgets::NodeId TopNode() const = 0;
+  virtual std::optional<std::size_t> TopRow() const = 0;
+  virtual bool HasFocus(const widgets::Control& control) const = 0;
 
   // In pixels at 96 dots per inch.
   virtual void Resize(int width, int height) = 0;
   virtual void ClickTab(std::string_view caption) = 0;
   virtual void Choose(widgets::ComboBox& combo, std::size_t row) = 0;
+  virtual void ChooseItem(widgets::ListBox& list, std::size_t row) = 0;
   virtual void Type(widgets::TextBox& box, std::string_view text) = 0;
   virtual void Pick(widgets::DateTimePicker& picker, DateValue value) = 0;
   virtual void Check(widgets::CheckBox& box, bool checked) = 0;
@@ -98,6 +103,11 @@ class ViewerPort {
   virtual void MoveGrip(int pixels) = 0;
   virtual void ReleaseGrip() = 0;
   virtual void Scroll(widgets::ScrollBar& bar, std::int32_t value) = 0;
+  // Until this node, or this row, stands first, or as far as it goes.
+  virtual void ScrollTree(widgets::NodeId top) = 0;
+  virtual void ScrollList(std::size_t top) = 0;
+  // By the keyboard; nullptr: to what lies outside the viewer.
+  virtual void MoveFocus(const widgets::Control* control) = 0;
 };
 
 // A host: its form, and its status bar.

@@ -41,6 +41,7 @@ ViewerPort& Session::viewer() {
     present = port_.PlaceViewer(platform_, factory_);
     present->Resize(kWidth, kHeight);
     present->viewer().p_Connect(connection_);
+    present->viewer().Subscribe(events_);
   }
   return *present;
 }

@@ -7,10 +7,12 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "datasource/ErrorLog.h"
 #include "hub/RecordHub.h"
 #include "scenario/CallRecorder.h"
+#include "scenario/EventRecorder.h"
 #include "scenario/Faults.h"
 #include "scenario/RecordingSources.h"
 #include "scenario/ScenarioPlatform.h"
@@ -43,6 +45,9 @@ class Session {
   void ChooseViewer(std::int32_t number);
   void EndViewer();
 
+  // What the viewers told their host since the last time.
+  std::vector<std::string> TakeEvents() { return events_.Take(); }
+
   // Whether the pointer holds the grip of the splitter, from press to release.
   bool gripHeld() const { return gripHeld_; }
   void SetGripHeld(bool held) { gripHeld_ = held; }
@@ -57,6 +62,7 @@ class Session {
   std::filesystem::path logFile_ = datasource::ErrorLogFile(platform_);
   hub::RecordHub hub_;
   RecordingFactory factory_{hub_, calls_};
+  EventRecorder events_;
   std::string url_;
   std::int32_t connection_ = -1;
   std::map<std::int32_t, std::unique_ptr<ViewerPort>> viewers_;

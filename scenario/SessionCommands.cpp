@@ -39,6 +39,15 @@ void Host(Session& session, Arguments arguments, std::ostream& /*out*/) {
   session.platform().SetHostStatusBar(arguments[1] == "on");
 }
 
+// "DOMAIN\user"; "" = the system does not say who works at it.
+void SetAccount(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  const std::string& name = arguments[0];
+  const std::size_t separator = name.find('\\');
+  if (name.empty()) return session.platform().SetAccount(std::nullopt);
+  if (separator == std::string::npos) throw ScriptError("An account is DOMAIN\\user: " + name);
+  session.platform().SetAccount(Account{name.substr(0, separator), name.substr(separator + 1)});
+}
+
 constexpr CommandEntry kCommands[] = {
     {"now", "DATE", 1, 1, Now},
     {"open", "URL", 1, 1, Open},
@@ -47,6 +56,7 @@ constexpr CommandEntry kCommands[] = {
     {"sql", "\"SQL\"", 1, 1, Sql},
     {"fail", "NAME NTH ERROR", 3, 3, Fail},
     {"status", "QUERY NTH STATUS", 3, 3, Status},
+    {"account", "DOMAIN\\user", 1, 1, SetAccount},
     {"host", "statusbar on|off", 2, 2, Host},
 };
 

@@ -12,8 +12,8 @@ std::vector<PlacedControl> PlacedControls(ProcessLogControls& c) {
       {&c.fraProcessLog, nullptr}, {&c.sstProcessLog, &c.fraProcessLog}, {&c.fraOption, &c.fraProcessLog}};
   for (widgets::Control* option : std::initializer_list<widgets::Control*>{
            &c.lblState, &c.cboState, &c.lblDate, &c.dtpDate, &c.dtpHour, &c.lblDuring, &c.txtDuring, &c.updDuring,
-           &c.cboDuringUnit, &c.chkCommunicationsFilter, &c.chkGroupByDay, &c.chkAlarmFilter, &c.lstGroupBy,
-           &c.updGroupBy, &c.cmdRefresh}) {
+           &c.cboDuringUnit, &c.lblPeriodEnd, &c.chkCommunicationsFilter, &c.chkGroupByDay, &c.chkAlarmFilter,
+           &c.lblGroupBy, &c.lstGroupBy, &c.updGroupBy, &c.cmdRefresh}) {
     placed.push_back({option, &c.fraOption});
   }
   placed.push_back({&c.fraList, &c.fraProcessLog});
@@ -33,6 +33,12 @@ PlacedControl ControlNamed(ProcessLogControls& controls, std::string_view name) 
       std::ranges::find_if(placed, [&](const PlacedControl& each) { return each.control->name() == name; });
   if (found == placed.end()) throw ScriptError("No such control: " + std::string(name));
   return *found;
+}
+
+const widgets::Control* PaneNamed(const ProcessLogControls& controls, std::string_view name) {
+  if (name == "tree") return &controls.tvMotherList;
+  if (name == "list") return &controls.lvMotherList;
+  throw ScriptError("No such pane: " + std::string(name));
 }
 
 }  // namespace quorvel::scenario

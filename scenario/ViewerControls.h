@@ -19,4 +19,7 @@ std::vector<PlacedControl> PlacedControls(ProcessLogControls& controls);
 // The control of that name with its container. ScriptError when there is none.
 PlacedControl ControlNamed(ProcessLogControls& controls, std::string_view name);
 
+// The pane that scripts call "tree" or "list". ScriptError for any other name.
+const widgets::Control* PaneNamed(const ProcessLogControls& controls, std::string_view name);
+
 }  // namespace quorvel::scenario

@@ -113,6 +113,18 @@ void ListPane::ListSelectionChanged() {
   Guarded([&] { FollowSelection(); });
 }
 
+void ListPane::ListScrolled(const widgets::ListCorner& corner) {
+  Guarded([&] {
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(verticalHeader()->sectionPosition(static_cast<int>(corner.row)));
+    horizontalScrollBar()->setValue(ToPixels(corner.left));
+  });
+}
+
+widgets::ListCorner ListPane::CornerInSight() const {
+  return {static_cast<std::size_t>(std::max(rowAt(0), 0)), ToTwips(horizontalScrollBar()->value())};
+}
+
 void ListPane::FollowHeaders() {
   for (std::size_t column = 0; column < list_.headers().size(); ++column) {
     horizontalHeader()->resizeSection(static_cast<int>(column), ToPixels(list_.headers()[column].width));

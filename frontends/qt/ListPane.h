@@ -32,6 +32,8 @@ class ListPane final : public QTableView, public widgets::ListObserver {
   void RowsReordered() override;
   void RowsChanged(widgets::RowRange rows) override;
   void ListSelectionChanged() override;
+  void ListScrolled(const widgets::ListCorner& corner) override;
+  widgets::ListCorner CornerInSight() const override;
 
  protected:
   void initViewItemOption(QStyleOptionViewItem* option) const override;

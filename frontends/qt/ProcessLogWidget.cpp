@@ -4,6 +4,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -11,6 +13,7 @@
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QTabBar>
+#include <QWheelEvent>
 #include <algorithm>
 #include <type_traits>
 #include <utility>
@@ -31,9 +34,15 @@ struct SpokenName {
   const char* name;
 };
 constexpr SpokenName kSpokenNames[] = {
-    {"sstProcessLog", "Views"},        {"dtpHour", "Start, time of day"}, {"updDuring", "Length of the period"},
-    {"cboDuringUnit", "Unit of time"}, {"lstGroupBy", "Group order"},     {"tvMotherList", "History"},
-    {"lvMotherList", "Entries"},       {"HScroll", "Scroll sideways"},    {"VScroll", "Scroll up and down"},
+    {"sstProcessLog", "Views"},
+    {"dtpHour", "Start, time of day"},
+    {"updDuring", "Length of the period"},
+    {"cboDuringUnit", "Unit of time"},
+    {"updGroupBy", "Move in the group order"},
+    {"tvMotherList", "History"},
+    {"lvMotherList", "Entries"},
+    {"HScroll", "Scroll sideways"},
+    {"VScroll", "Scroll up and down"},
 };
 
 // The wheel over a field that does not have the focus means the page, not the field.
@@ -50,6 +59,59 @@ class WheelNeedsFocus final : public QObject {
     event->ignore();
     return true;
   }
+};
+
+// Up and down, with these modifiers, and the wheel are for a field what the buttons of its up-down are.
+class StepKeys final : public QObject {
+ public:
+  StepKeys(QWidget& field, Qt::KeyboardModifiers modifiers, std::function<void(int)> step)
+      : QObject(&field), modifiers_(modifiers), step_(std::move(step)) {
+    field.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* field, QEvent* event) override {
+    const int by = event->type() == QEvent::Wheel ? WheelStepOf(*field, *event) : StepOf(*event);
+    if (by != 0) Guarded([&] { step_(by); });
+    return by != 0;
+  }
+
+ private:
+  int StepOf(const QEvent& event) const {
+    if (event.type() != QEvent::KeyPress) return 0;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if ((key.modifiers() & ~Qt::KeypadModifier) != modifiers_) return 0;
+    return key.key() == Qt::Key_Up ? 1 : key.key() == Qt::Key_Down ? -1 : 0;
+  }
+
+  // The wheel means a list's rows, and no field that does not have the focus.
+  int WheelStepOf(QObject& field, const QEvent& event) const {
+    if (modifiers_ != Qt::NoModifier || !static_cast<QWidget&>(field).hasFocus()) return 0;
+    const int angle = static_cast<const QWheelEvent&>(event).angleDelta().y();
+    return angle > 0 ? 1 : angle < 0 ? -1 : 0;
+  }
+
+  Qt::KeyboardModifiers modifiers_;
+  std::function<void(int)> step_;
+};
+
+// Tells when a pane gets or loses the focus. A popup over it takes nothing away.
+class FocusWatch final : public QObject {
+ public:
+  FocusWatch(QWidget& pane, std::function<void(bool)> moved) : QObject(&pane), moved_(std::move(moved)) {
+    pane.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*pane*/, QEvent* event) override {
+    const bool got = event->type() == QEvent::FocusIn;
+    if (!got && event->type() != QEvent::FocusOut) return false;
+    if (static_cast<const QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) Guarded([&] { moved_(got); });
+    return false;
+  }
+
+ private:
+  std::function<void(bool)> moved_;
 };
 
 // A slot that calls `body` with what the signal carries.
@@ -128,30 +190,53 @@ void ProcessLogWidget::MakeOptions() {
   auto* const state = Make<QLabel>(c_.lblState, options_);
   state->setBuddy(MakeCombo(c_.cboState, &ucProcessLog::cboState_Click));
   MakePeriodOptions();
-  for (widgets::CheckBox* box : {&c_.chkCommunicationsFilter, &c_.chkGroupByDay, &c_.chkAlarmFilter}) {
-    On(Make<QCheckBox>(*box, options_), &QCheckBox::clicked, this, [box](bool checked) { box->SetChecked(checked); });
-  }
-  On(Make<QListWidget>(c_.lstGroupBy, options_), &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) c_.lstGroupBy.Select(static_cast<std::size_t>(row));
-  });
+  MakeCheckBox(c_.chkCommunicationsFilter, &ucProcessLog::chkCommunicationsFilter_Click);
+  MakeCheckBox(c_.chkGroupByDay, &ucProcessLog::chkGroupByDay_Click);
+  MakeCheckBox(c_.chkAlarmFilter, &ucProcessLog::chkAlarmFilter_Click);
+  MakeGroupOrder();
   auto* const refresh = Make<QPushButton>(c_.cmdRefresh, options_);
   On(refresh, &QPushButton::clicked, this, [this](bool) { control_.cmdRefresh_Click(); });
 }
 
 void ProcessLogWidget::MakePeriodOptions() {
   auto* const date = Make<QLabel>(c_.lblDate, options_);
-  date->setBuddy(MakePicker(c_.dtpDate, QStringLiteral("yyyy-MM-dd")));
-  MakePicker(c_.dtpHour, QStringLiteral("HH:mm:ss"));
+  date->setBuddy(MakePicker(c_.dtpDate, QStringLiteral("yyyy-MM-dd"), &ucProcessLog::dtpDate_Change));
+  MakePicker(c_.dtpHour, QStringLiteral("HH:mm:ss"), &ucProcessLog::dtpHour_Change);
 
   auto* const during = Make<QLabel>(c_.lblDuring, options_);
   auto* const length = Make<QLineEdit>(c_.txtDuring, options_);
   length->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   during->setBuddy(length);
-  On(length, &QLineEdit::textEdited, this, [this](const QString& text) { c_.txtDuring.SetText(FromQt(text)); });
-  auto* const step = new UpDownButtons(
-      [this](int by) { by > 0 ? control_.updDuring_UpClick() : control_.updDuring_DownClick(); }, options_);
-  Bind(c_.updDuring, *step);
+  On(length, &QLineEdit::textEdited, this, [this](const QString& text) {
+    c_.txtDuring.SetText(FromQt(text));
+    control_.txtDuring_Change();
+  });
+  const auto step = [this](int by) { by > 0 ? control_.updDuring_UpClick() : control_.updDuring_DownClick(); };
+  Bind(c_.updDuring, *new UpDownButtons(step, options_));
+  new StepKeys(*length, Qt::NoModifier, step);
   MakeCombo(c_.cboDuringUnit, &ucProcessLog::cboDuringUnit_Click);
+  Make<QLabel>(c_.lblPeriodEnd, options_);
+}
+
+void ProcessLogWidget::MakeGroupOrder() {
+  auto* const label = Make<QLabel>(c_.lblGroupBy, options_);
+  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  auto* const list = Make<QListWidget>(c_.lstGroupBy, options_);
+  label->setBuddy(list);
+  On(list, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) c_.lstGroupBy.Select(static_cast<std::size_t>(row));
+  });
+  const auto step = [this](int by) { by > 0 ? control_.updGroupBy_UpClick() : control_.updGroupBy_DownClick(); };
+  Bind(c_.updGroupBy, *new UpDownButtons(step, options_));
+  // The plain keys go from row to row.
+  new StepKeys(*list, Qt::AltModifier, step);
+}
+
+void ProcessLogWidget::MakeCheckBox(widgets::CheckBox& model, void (ucProcessLog::*click)()) {
+  On(Make<QCheckBox>(model, options_), &QCheckBox::clicked, this, [this, &model, click](bool checked) {
+    model.SetChecked(checked);
+    (control_.*click)();
+  });
 }
 
 QComboBox* ProcessLogWidget::MakeCombo(widgets::ComboBox& model, void (ucProcessLog::*click)()) {
@@ -164,7 +249,8 @@ QComboBox* ProcessLogWidget::MakeCombo(widgets::ComboBox& model, void (ucProcess
   return combo;
 }
 
-QDateTimeEdit* ProcessLogWidget::MakePicker(widgets::DateTimePicker& model, const QString& format) {
+QDateTimeEdit* ProcessLogWidget::MakePicker(widgets::DateTimePicker& model, const QString& format,
+                                            void (ucProcessLog::*change)()) {
   auto* const picker = new QDateTimeEdit(options_);
   picker->setDisplayFormat(format);
   // Wall clock times as they stand: none is missing or double where summer time begins or ends.
@@ -173,12 +259,17 @@ QDateTimeEdit* ProcessLogWidget::MakePicker(widgets::DateTimePicker& model, cons
   picker->setCalendarPopup(picker->displayedSections().testFlag(QDateTimeEdit::DaySection));
   new WheelNeedsFocus(*picker);
   Bind(model, *picker, [&model, picker] { DrawContent(model, *picker); });
-  On(picker, &QDateTimeEdit::dateChanged, this, [&model, picker](QDate day) {
-    if (picker->calendarPopup()) model.SetValue(FromQt(day));
-  });
-  On(picker, &QDateTimeEdit::timeChanged, this, [&model, picker](QTime time) {
-    if (!picker->calendarPopup()) model.SetValue(FromQt(time));
-  });
+  if (picker->calendarPopup()) {
+    On(picker, &QDateTimeEdit::dateChanged, this, [this, &model, change](QDate day) {
+      model.SetValue(FromQt(day));
+      (control_.*change)();
+    });
+  } else {
+    On(picker, &QDateTimeEdit::timeChanged, this, [this, &model, change](QTime time) {
+      model.SetValue(FromQt(time));
+      (control_.*change)();
+    });
+  }
   return picker;
 }
 
@@ -197,6 +288,10 @@ void ProcessLogWidget::MakePanes() {
                         .keyDown = [this](std::int32_t keyCode) { control_.lvMotherList_KeyDown(keyCode); }},
                        section_);
   Bind(c_.lvMotherList, *list_);
+  new FocusWatch(*tree_,
+                 [this](bool got) { got ? control_.tvMotherList_GotFocus() : control_.tvMotherList_LostFocus(); });
+  new FocusWatch(*list_,
+                 [this](bool got) { got ? control_.lvMotherList_GotFocus() : control_.lvMotherList_LostFocus(); });
   setFocusProxy(tree_);
 }
 

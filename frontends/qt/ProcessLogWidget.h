@@ -47,6 +47,7 @@ class ProcessLogWidget final : public QWidget {
  private:
   void MakeOptions();
   void MakePeriodOptions();
+  void MakeGroupOrder();
   void MakeTabs();
   void MakePanes();
   void MakeSplitter();
@@ -58,7 +59,8 @@ class ProcessLogWidget final : public QWidget {
   template <class Widget, class Model>
   Widget* Make(Model& model, QWidget* parent);
   QComboBox* MakeCombo(widgets::ComboBox& model, void (ucProcessLog::*click)());
-  QDateTimeEdit* MakePicker(widgets::DateTimePicker& model, const QString& format);
+  QDateTimeEdit* MakePicker(widgets::DateTimePicker& model, const QString& format, void (ucProcessLog::*change)());
+  void MakeCheckBox(widgets::CheckBox& model, void (ucProcessLog::*click)());
   void Bind(widgets::Control& model, QWidget& widget, std::function<void()> content = {});
 
   QtPlatform ownPlatform_;

@@ -94,6 +94,17 @@ void TreePane::TreeSelectionChanged() {
   Guarded([&] { FollowSelection(); });
 }
 
+void TreePane::TreeScrolled(NodeId top) {
+  Guarded([&] {
+    if (top == NodeId::kNone) return scrollToTop();
+    if (IsShown(top)) scrollTo(model_.IndexOf(top), PositionAtTop);
+  });
+}
+
+NodeId TreePane::TopNode() const {
+  return verticalScrollBar()->value() == 0 ? NodeId::kNone : model_.NodeOf(indexAt({0, 0}));
+}
+
 void TreePane::FollowExpansion(const QModelIndex& index) {
   const QScopedValueRollback following(following_, true);
   const NodeId node = model_.NodeOf(index);

@@ -34,6 +34,8 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   void NodesChanged(std::span<const widgets::NodeId> nodes) override;
   void NodeExpansionChanged(widgets::NodeId node) override;
   void TreeSelectionChanged() override;
+  void TreeScrolled(widgets::NodeId top) override;
+  widgets::NodeId TopNode() const override;
 
  protected:
   void initViewItemOption(QStyleOptionViewItem* option) const override;

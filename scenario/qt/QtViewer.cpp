@@ -89,6 +89,12 @@ widgets::Alignment AlignmentOf(int alignment) {
 
 }  // namespace
 
+// A window system gives a new form the focus, or does not; a script begins without it.
+QtViewer::QtViewer(qt::ProcessLogWidget& widget) : widget_(&widget) {
+  Settle();
+  MoveFocus(nullptr);
+}
+
 template <class Widget>
 Widget& QtViewer::Of(const widgets::Control& control) const {
   auto* const found = widget_->findChild<Widget*>(qt::ToQt(control.name()));
@@ -168,6 +174,20 @@ std::vector<SeenRow> QtViewer::Rows() const {
   return seen;
 }
 
+NodeId QtViewer::TopNode() const {
+  const qt::TreePane& tree = widget_->tree();
+  return tree.nodes().NodeOf(tree.indexAt({0, 0}));
+}
+
+std::optional<std::size_t> QtViewer::TopRow() const {
+  const int row = widget_->list().rowAt(0);
+  return row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
+}
+
+bool QtViewer::HasFocus(const widgets::Control& control) const {
+  return Of(control).hasFocus();
+}
+
 void QtViewer::Resize(int width, int height) {
   const QSize wanted(width, height);
   // A form that lays its viewer out gives it the size through its own.
@@ -203,6 +223,14 @@ void QtViewer::Choose(widgets::ComboBox& combo, std::size_t row) {
   PressKey(list, Qt::Key_Home);
   for (std::size_t step = 0; step < row; ++step) PressKey(list, Qt::Key_Down);
   PressKey(list, Qt::Key_Return);
+  Settle();
+}
+
+void QtViewer::ChooseItem(widgets::ListBox& list, std::size_t row) {
+  auto& widget = Of<QListWidget>(list);
+  QListWidgetItem* const item = widget.item(static_cast<int>(row));
+  widget.scrollToItem(item);
+  ClickMouse(*widget.viewport(), widget.visualItemRect(item).center());
   Settle();
 }
 
@@ -326,6 +354,25 @@ void QtViewer::Scroll(widgets::ScrollBar& bar, std::int32_t value) {
   widget.setSliderDown(true);
   widget.setSliderPosition(value);
   widget.setSliderDown(false);
+  Settle();
+}
+
+void QtViewer::ScrollTree(NodeId top) {
+  widget_->tree().scrollTo(widget_->tree().nodes().IndexOf(top), QAbstractItemView::PositionAtTop);
+  Settle();
+}
+
+void QtViewer::ScrollList(std::size_t top) {
+  widget_->list().scrollTo(widget_->list().model()->index(static_cast<int>(top), 0), QAbstractItemView::PositionAtTop);
+  Settle();
+}
+
+void QtViewer::MoveFocus(const widgets::Control* control) {
+  if (control != nullptr) {
+    Of(*control).setFocus(Qt::TabFocusReason);
+  } else if (QWidget* const before = QApplication::focusWidget()) {
+    before->clearFocus();
+  }
   Settle();
 }
 

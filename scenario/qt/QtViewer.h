@@ -12,7 +12,7 @@ namespace quorvel::scenario {
 
 class QtViewer final : public ViewerPort {
  public:
-  explicit QtViewer(qt::ProcessLogWidget& widget) : widget_(&widget) {}
+  explicit QtViewer(qt::ProcessLogWidget& widget);
   // Takes the widget off its form.
   ~QtViewer() override { delete widget_; }
   QtViewer(const QtViewer&) = delete;
@@ -26,10 +26,14 @@ class QtViewer final : public ViewerPort {
   bool IsOpen(widgets::NodeId node) const override;
   std::vector<SeenHeader> Headers() const override;
   std::vector<SeenRow> Rows() const override;
+  widgets::NodeId TopNode() const override;
+  std::optional<std::size_t> TopRow() const override;
+  bool HasFocus(const widgets::Control& control) const override;
 
   void Resize(int width, int height) override;
   void ClickTab(std::string_view caption) override;
   void Choose(widgets::ComboBox& combo, std::size_t row) override;
+  void ChooseItem(widgets::ListBox& list, std::size_t row) override;
   void Type(widgets::TextBox& box, std::string_view text) override;
   void Pick(widgets::DateTimePicker& picker, DateValue value) override;
   void Check(widgets::CheckBox& box, bool checked) override;
@@ -45,6 +49,9 @@ class QtViewer final : public ViewerPort {
   void MoveGrip(int pixels) override;
   void ReleaseGrip() override;
   void Scroll(widgets::ScrollBar& bar, std::int32_t value) override;
+  void ScrollTree(widgets::NodeId top) override;
+  void ScrollList(std::size_t top) override;
+  void MoveFocus(const widgets::Control* control) override;
 
  private:
   // The widget that draws a control.

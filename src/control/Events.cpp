@@ -1,11 +1,9 @@
 // The control's event handlers: what a gesture does. Each shows and logs its own errors.
+#include <algorithm>
 #include <string>
-#include <utility>
 
-#include "control/Hourglass.h"
+#include "control/Entry.h"
 #include "control/Layout.h"
-#include "control/Working.h"
-#include "control/ucProcessLog.h"
 #include "list/Classification.h"
 #include "util/ListViewSort.h"
 
@@ -23,60 +21,20 @@ void ucProcessLog::UserControl_Resize(Twips width, Twips height) {
   });
 }
 
-template <class Body>
-void ucProcessLog::Handle(std::string_view label, Body&& body) {
-  if (f_blnClickNode) return;
-  Reporting(errors_, label, [&] {
-    const Working working(f_blnClickNode);
-    const Hourglass hourglass(platform_);
-    std::forward<Body>(body)();
-  });
-}
-
 void ucProcessLog::sstProcessLog_Click() {
   Handle("Quorvel: ucProcessLog.sstProcessLog_Click", [&] {
+    tabChosen_ = true;
     const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
     // The key needs the tree that is about to go.
     const std::string left = SelectedKey();
     const tree::Place place = tree::EquivalentPlace(left, GetNextContextKeyInLogs(left, NameOf(view)));
     shown_ = {};
+    ModifyMotherListSize(false);
     ClearPanes();
     InitStateListByTab();
     ControlsVisible(static_cast<std::int32_t>(StateFilterOf(controls_.cboState.selectedText()).value()));
-    BuildView(view, place);
+    BuildView(view, {.node = place});
   });
-}
-
-void ucProcessLog::cmdRefresh_Click() {
-  Handle("Quorvel: ucProcessLog.cmdRefresh_Click", [&] {
-    if (f_tlFromType == tlFromType::tlOneProcess) {
-      BuildAll(StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll));
-    } else {
-      // The host's whole log list is the alarms view here, though its tab click builds nothing.
-      const bool logs = f_tlFromType == tlFromType::tlLogs;
-      BuildView(logs ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()),
-                SelectedPlace());
-    }
-  });
-}
-
-void ucProcessLog::cboState_Click() {
-  Reporting(errors_, "Quorvel: ucProcessLog.cboState_Click", [&] {
-    const auto state = StateFilterOf(controls_.cboState.selectedText());
-    if (state) ControlsVisible(static_cast<std::int32_t>(*state));
-  });
-}
-
-void ucProcessLog::cboDuringUnit_Click() {
-  Reporting(errors_, "Quorvel: ucProcessLog.cboDuringUnit_Click", [&] { LimitPeriod(controls_); });
-}
-
-void ucProcessLog::updDuring_UpClick() {
-  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_UpClick", [&] { StepPeriod(controls_, 1); });
-}
-
-void ucProcessLog::updDuring_DownClick() {
-  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_DownClick", [&] { StepPeriod(controls_, -1); });
 }
 
 void ucProcessLog::tvMotherList_Expand(NodeId node) {
@@ -124,6 +82,38 @@ void ucProcessLog::lvMotherList_DblClick() {
 void ucProcessLog::lvMotherList_KeyDown(std::int32_t keyCode) {
   constexpr std::int32_t kEnter = 13;
   if (keyCode == kEnter) lvMotherList_DblClick();
+}
+
+// A subscriber may go, or take another with it, while it hears.
+template <class Event, class... Values>
+void ucProcessLog::Raise(Event event, const Values&... values) {
+  const std::vector<HostEvents*> hosts = subscribers_;
+  for (HostEvents* const host : hosts) {
+    if (std::ranges::find(subscribers_, host) != subscribers_.end()) (host->*event)(values...);
+  }
+}
+
+void ucProcessLog::FocusMoved(std::string_view label, bool& flag, bool has) {
+  Reporting(errors_, label, [&] {
+    flag = has;
+    Raise(&HostEvents::MajMenu);
+  });
+}
+
+void ucProcessLog::lvMotherList_GotFocus() {
+  FocusMoved("Quorvel: ucProcessLog.lvMotherList_GotFocus", listHasFocus_, true);
+}
+
+void ucProcessLog::lvMotherList_LostFocus() {
+  FocusMoved("Quorvel: ucProcessLog.lvMotherList_LostFocus", listHasFocus_, false);
+}
+
+void ucProcessLog::tvMotherList_GotFocus() {
+  FocusMoved("Quorvel: ucProcessLog.tvMotherList_GotFocus", treeHasFocus_, true);
+}
+
+void ucProcessLog::tvMotherList_LostFocus() {
+  FocusMoved("Quorvel: ucProcessLog.tvMotherList_LostFocus", treeHasFocus_, false);
 }
 
 void ucProcessLog::imgSplitter_MouseDown() {

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "control/ucProcessLog.h"
+#include "tree/ConnectionTree.h"
 #include "tree/ProcessTree.h"
 #include "tree/TaskTree.h"
 #include "tree/UserTree.h"
@@ -10,6 +11,17 @@ namespace quorvel {
 
 using datasource::Propagating;
 using widgets::NodeId;
+
+namespace {
+
+std::string_view BackupLabelOf(ExpandRoutine level) {
+  if (level == ExpandRoutine::kExpandBackupLevel1) return "Quorvel: ucProcessLog.tvMotherList_ExpandBackupLevel1";
+  if (level == ExpandRoutine::kExpandBackupLevel2) return "Quorvel: ucProcessLog.tvMotherList_ExpandBackupLevel2";
+  if (level == ExpandRoutine::kExpandBackupLevel3) return "Quorvel: ucProcessLog.tvMotherList_ExpandBackupLevel3";
+  return "Quorvel: ucProcessLog.tvMotherList_ExpandBackupLevel4";
+}
+
+}  // namespace
 
 // The children go only now: after a failed query the node can be opened again, from the start.
 template <class Append>
@@ -33,9 +45,18 @@ void ucProcessLog::LoadNode(NodeId node) {
       return tvMotherList_ExpandTask(node);
     case ExpandRoutine::kExpandProcess:
       return tvMotherList_ExpandProcess(node);
-    default:
-      // The builders of this version give no placeholder to nodes of other routines.
+    case ExpandRoutine::kNodeMonthCommunications:
+      return tvMotherList_ExpandComm(node);
+    case ExpandRoutine::kExpandCommunications:
+      return tvMotherList_ExpandCommunications(node);
+    case ExpandRoutine::kExpandImports:
+      return tvMotherList_ExpandImports(node);
+    case ExpandRoutine::kExpandBackupLevel5:
+      return tvMotherList_ExpandBackupLevel5(node);
+    case ExpandRoutine::kNone:
       return;
+    default:
+      return tvMotherList_ExpandBackup(RouteOf(controls_.tvMotherList.Key(node)).expand, node);
   }
 }
 
@@ -73,6 +94,56 @@ void ucProcessLog::tvMotherList_ExpandProcess(NodeId node) {
     const tree::ProcessOnStation wanted = tree::ReadProcessKey(tree.Key(node));
     const auto parts = AskParts(wanted.process, wanted.user);
     ReplaceChildren(node, [&] { tree::AppendRunsOfStation(parts.records, parts.count, platform_, node, tree); });
+  });
+}
+
+// A month without days.
+void ucProcessLog::tvMotherList_ExpandComm(NodeId node) {
+  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandComm", [&] { AppendConnectionsUnder(node); });
+}
+
+void ucProcessLog::tvMotherList_ExpandCommunications(NodeId node) {
+  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandCommunications", [&] {
+    if (controls_.tvMotherList.HasPlaceholder(node)) AppendConnectionsUnder(node);
+  });
+}
+
+// All of the period, whatever the list is narrowed to.
+void ucProcessLog::AppendConnectionsUnder(NodeId node) {
+  widgets::TreeView& tree = controls_.tvMotherList;
+  const auto connections = AskConnections(tree::PeriodOfConnections(tree.Key(node), ShownPeriod()), false);
+  ReplaceChildren(node,
+                  [&] { tree::AppendConnectionNodes(connections.records, connections.count, platform_, node, tree); });
+}
+
+void ucProcessLog::tvMotherList_ExpandImports(NodeId node) {
+  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandImports", [&] {
+    widgets::TreeView& tree = controls_.tvMotherList;
+    const auto runs = AskImportRuns(tree::ReadImportKey(tree.Key(node)));
+    ReplaceChildren(node, [&] { tree::AppendImportRuns(runs.records, runs.count, platform_, node, tree); });
+  });
+}
+
+void ucProcessLog::tvMotherList_ExpandBackup(ExpandRoutine level, NodeId node) {
+  Propagating(BackupLabelOf(level), [&] {
+    widgets::TreeView& tree = controls_.tvMotherList;
+    const auto saves = AskSaves(tree::ReadBackupKey(tree.Key(node), ShownPeriod()));
+    const tree::BackupsShown shown = BackupsWanted();
+    ReplaceChildren(node, [&] {
+      if (level == ExpandRoutine::kExpandBackupLevel4) {
+        tree::AppendBackupsOfDay(saves.records, saves.count, shown, node, tree);
+      } else {
+        tree::AppendBackupPeriods(saves.records, saves.count, shown, platform_, node, tree);
+      }
+    });
+  });
+}
+
+void ucProcessLog::tvMotherList_ExpandBackupLevel5(NodeId node) {
+  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandBackupLevel5", [&] {
+    widgets::TreeView& tree = controls_.tvMotherList;
+    const auto files = AskSaveFiles(tree::SaveOfKey(tree.Key(node)));
+    ReplaceChildren(node, [&] { tree::AppendBackupFolders(files.records, files.count, node, tree); });
   });
 }
 

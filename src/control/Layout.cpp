@@ -35,6 +35,14 @@ constexpr Twips kFieldGap = 75;
 constexpr Twips kGroupGap = 330;
 constexpr Twips kRowGap = 105;
 constexpr Twips kRefreshWidth = 1500;
+// The filter of alarms stands this much further right than the rows have it.
+constexpr Twips kAlarmFilterInset = 360;
+constexpr Twips kGroupLabelWidth = 600;
+constexpr Twips kGroupListWidth = 1500;
+constexpr Twips kGroupListHeight = 1215;
+constexpr Twips kStepWidth = 300;
+// From here on the group order stands beside the button, else below it.
+constexpr Twips kWideOptions = 9000;
 
 // A field of the options panel, how wide it is, and how far it stands off the field before it.
 struct Field {
@@ -52,19 +60,26 @@ Twips WidthOf(const FieldGroup& group) {
   return width;
 }
 
-// Fills rows from the left and goes on below where a group does not fit; the first row leaves room for the button.
+// What stands in the upper right corner, and how much of it fields must leave free.
+struct Corner {
+  Twips width = 0;
+  Twips height = 0;
+};
+
+// Fills rows from the left, beside the corner and then below it, and goes on below where a group does not fit.
 class FieldRows {
  public:
-  FieldRows(Twips width, Twips firstRowRoom) : width_(width), room_(firstRowRoom) {}
+  FieldRows(Twips width, Corner corner) : width_(width), corner_(corner) {}
 
-  void Place(const FieldGroup& group) {
-    const Twips groupWidth = WidthOf(group);
-    if (groupWidth <= 0) return;
-    if (x_ > 0 && x_ + groupWidth > room_) {
+  // `inset`: how much further right than the rows have it.
+  void Place(const FieldGroup& group, Twips inset = 0) {
+    const Twips groupWidth = WidthOf(group) + inset;
+    if (groupWidth <= inset) return;
+    if (x_ > 0 && x_ + groupWidth > Room()) {
       x_ = 0;
       y_ += kFieldHeight + kRowGap;
-      room_ = width_;
     }
+    x_ += inset;
     bool first = true;
     for (const Field& field : group) {
       if (!field.control->visible()) continue;
@@ -76,25 +91,50 @@ class FieldRows {
     x_ += kGroupGap;
   }
 
-  Twips height() const { return y_ + kFieldHeight; }
+  Twips height() const { return std::max(y_ + kFieldHeight, corner_.height); }
 
  private:
+  Twips Room() const { return y_ < corner_.height ? width_ - corner_.width - kGroupGap : width_; }
+
   Twips width_;
-  Twips room_;
+  Corner corner_;
   Twips x_ = 0;
   Twips y_ = 0;
 };
 
+void PlaceGroupOrder(ProcessLogControls& c, Twips left, Twips top) {
+  c.lblGroupBy.SetBounds({left, top, kGroupLabelWidth, kFieldHeight});
+  const Twips list = left + kGroupLabelWidth + kFieldGap;
+  c.lstGroupBy.SetBounds({list, top, kGroupListWidth, kGroupListHeight});
+  c.updGroupBy.SetBounds({list + kGroupListWidth, top, kStepWidth, kGroupListHeight});
+}
+
 // Places the fields of the options panel in rows of this width; returns the height that they take.
 Twips LayOutOptions(ProcessLogControls& c, Twips width) {
-  FieldRows rows(width, width - kRefreshWidth - kGroupGap);
+  constexpr Twips kGroupOrderWidth = kGroupLabelWidth + kFieldGap + kGroupListWidth + kStepWidth;
+  const bool wide = width >= kWideOptions;
+  Corner corner{kRefreshWidth, kFieldHeight};
+  c.cmdRefresh.SetBounds({width - kRefreshWidth, 0, kRefreshWidth, kFieldHeight});
+  if (c.lstGroupBy.visible()) {
+    corner = wide ? Corner{kRefreshWidth + kGroupGap + kGroupOrderWidth, kGroupListHeight}
+                  : Corner{kGroupOrderWidth, kFieldHeight + kRowGap + kGroupListHeight};
+    PlaceGroupOrder(c, width - corner.width, corner.height - kGroupListHeight);
+  }
+  FieldRows rows(width, corner);
   rows.Place({{&c.lblState, 570}, {&c.cboState, 2175}});
   rows.Place({{&c.lblDate, 570}, {&c.dtpDate, 1725}, {&c.dtpHour, 1275}});
-  rows.Place({{&c.lblDuring, 675}, {&c.txtDuring, 525}, {&c.updDuring, 300, 0}, {&c.cboDuringUnit, 1350}});
+  const Field length[] = {
+      {&c.lblDuring, 675}, {&c.txtDuring, 525}, {&c.updDuring, kStepWidth, 0}, {&c.cboDuringUnit, 1350}};
+  const Field end{&c.lblPeriodEnd, 2400};
+  if (wide) {
+    rows.Place({length[0], length[1], length[2], length[3], end});
+  } else {
+    rows.Place({length[0], length[1], length[2], length[3]});
+    rows.Place({end});
+  }
   rows.Place({{&c.chkCommunicationsFilter, 2700}});
   rows.Place({{&c.chkGroupByDay, 1800}});
-  rows.Place({{&c.chkAlarmFilter, 2250}});
-  c.cmdRefresh.SetBounds({width - kRefreshWidth, 0, kRefreshWidth, kFieldHeight});
+  rows.Place({{&c.chkAlarmFilter, 2250}}, kAlarmFilterInset);
   return rows.height();
 }
 
@@ -154,8 +194,11 @@ void LayOutPanes(ProcessLogControls& c, float& treeWidth) {
   const Twips height = frame.height - kTreeHeightAllowance;
   Rect tree{0, kPaneTop, width, height > 0 ? height : c.tvMotherList.bounds().height};
   Rect list;
-  const bool beside = tree.right() + kListGap < frame.width;
-  if (beside) {
+  const bool alone = !c.tvMotherList.visible();
+  const bool beside = !alone && tree.right() + kListGap < frame.width;
+  if (alone) {
+    list = {0, tree.top, frame.width, tree.height};
+  } else if (beside) {
     const Twips left = tree.right() + kGripWidth;
     list = {left, tree.top, frame.width - left, tree.height};
   } else {

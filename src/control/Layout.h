@@ -10,7 +10,7 @@ namespace quorvel {
 void LayOutControl(ProcessLogControls& controls, widgets::Twips width, widgets::Twips height);
 
 // Places tree, list and splitter in fraList for this tree width; one below the least is corrected in place. Where there
-// is no room beside the tree, the list lies below it.
+// is no room beside the tree, the list lies below it; where no tree is shown, the list takes all.
 void LayOutPanes(ProcessLogControls& controls, float& treeWidth);
 
 // The splitter drag: the bar appears over the grip; follows the pointer, which is `x` from the grip's left edge, within

@@ -30,7 +30,7 @@ using widgets::NodeId;
 
 void ucProcessLog::HandleNodeClick(NodeId node) {
   controls_.tvMotherList.Select(node);
-  placeToReturnTo_.clear();
+  toReturnTo_.reset();
   controls_.lvMotherList.SetRows(nullptr);
   try {
     FillList(node);
@@ -59,9 +59,22 @@ void ucProcessLog::FillList(NodeId node) {
       return lvMotherList_NodeTask(node);
     case ClickRoutine::kNodeStep:
       return lvMotherList_NodeStep(node);
-    default:
-      // The child list is the right one for kNodeProcess; nodes of other views have no list of their own yet.
+    case ClickRoutine::kNodeProcess:
       return lvMotherList_NodeProcess(node);
+    case ClickRoutine::kNodeMonthCommunications:
+      return lvMotherList_NodeMonthCommunications(node);
+    case ClickRoutine::kNodeCommunications:
+      return lvMotherList_NodeCommunications(node);
+    case ClickRoutine::kNodeUserNameInAlarms:
+      return lvMotherList_NodeUserNameInAlarms(node);
+    case ClickRoutine::kNodeDayDateInAlarms:
+      return lvMotherList_NodeDayDateInAlarms(node);
+    case ClickRoutine::kNodeProcessNameInImports:
+      return lvMotherList_NodeProcessNameInImports(node);
+    case ClickRoutine::kNodeBackupFiles:
+      return lvMotherList_NodeBackupFiles(node);
+    case ClickRoutine::kListAllSubNodes:
+      return ListAllSubNodes(node, tree::CaptionOfSubNodes(controls_.tvMotherList.Key(node)));
   }
 }
 

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "platform/Error.h"
+#include "util/ComboSelection.h"
+#include "util/PublicOstrana.h"
 
 namespace quorvel {
 namespace {
@@ -108,8 +110,7 @@ void FillStateList(widgets::ComboBox& cboState, std::string_view tabCaption) {
     items.push_back({std::string(text), static_cast<std::int32_t>(*StateFilterOf(text))});
   }
   cboState.SetItems(std::move(items));
-  const std::optional<std::size_t> same = cboState.RowOfText(before);
-  cboState.Select(same ? *same : *cboState.RowOfText(CounterpartOf(states, before)));
+  if (!util::SelectStringIn(cboState, before)) util::SelectStringIn(cboState, CounterpartOf(states, before));
 }
 
 void FillOptionTexts(ProcessLogControls& c) {
@@ -121,9 +122,16 @@ void FillOptionTexts(ProcessLogControls& c) {
   c.lblDuring.SetText("D&uring");
   c.txtDuring.SetToolTip("Length of the period");
   c.cboDuringUnit.SetToolTip("Unit of the length");
+  c.lblPeriodEnd.SetToolTip("Where the period ends; what begins then is no longer part of it");
   c.chkCommunicationsFilter.SetText("&Failed connections only");
   c.chkGroupByDay.SetText("&Group by day");
   c.chkAlarmFilter.SetText("&Active alarms only");
+  c.lblGroupBy.SetText("&Order");
+  c.lstGroupBy.SetToolTip(
+      "What stands above Origin arranges the first level of the tree, from the top down.\n"
+      "Date: the newest execution first. User: what reached the most stations first.\n"
+      "Processes: stations with the most processes first. Origin: as the history has it, by name.");
+  c.updGroupBy.SetToolTip("Move the selected row up or down");
   c.cmdRefresh.SetText("&Refresh");
   c.cmdRefresh.SetToolTip("Read the history again (F5)");
   c.cboDuringUnit.SetItems({{"Months", 0}, {"Days", 0}, {"Hours", 0}});
@@ -149,6 +157,23 @@ void StepPeriod(ProcessLogControls& c, std::int32_t by) {
   c.txtDuring.SetText(std::to_string(c.updDuring.value()));
 }
 
+void MoveGroup(ProcessLogControls& c, bool up) {
+  const std::optional<std::size_t> row = c.lstGroupBy.selected();
+  const std::size_t last = c.lstGroupBy.items().size() - 1;
+  if (!row || *row == (up ? 0 : last)) return;
+  c.lstGroupBy.Exchange(*row, up ? *row - 1 : *row + 1);
+}
+
+void ShowPeriodEnd(ProcessLogControls& c, const Platform& platform) {
+  std::string text;
+  try {
+    text = "to " + util::strFormatDateTime(platform, ReadOptions(c, StateFilter::kAll).end, util::kDateAndTime);
+  } catch (const Error&) {
+    text = "to ?";  // what is wrong with the period is told when it is used
+  }
+  c.lblPeriodEnd.SetText(text);
+}
+
 void LimitPeriod(ProcessLogControls& c) {
   // One limit for months, days and hours alike; hosts count on it.
   c.updDuring.SetRange(1, kLongestPeriod);
@@ -159,13 +184,21 @@ void LimitPeriod(ProcessLogControls& c) {
 void ShowOptions(ProcessLogControls& c, StateFilter state) {
   // The last execution of each process needs no period.
   const bool period = state != StateFilter::kLastExecution;
-  for (widgets::Control* control : std::initializer_list<widgets::Control*>{
-           &c.lblDate, &c.dtpDate, &c.dtpHour, &c.lblDuring, &c.txtDuring, &c.updDuring, &c.cboDuringUnit}) {
+  for (widgets::Control* control :
+       std::initializer_list<widgets::Control*>{&c.lblDate, &c.dtpDate, &c.dtpHour, &c.lblDuring, &c.txtDuring,
+                                                &c.updDuring, &c.cboDuringUnit, &c.lblPeriodEnd}) {
     control->SetVisible(period);
   }
-  const bool connections = c.sstProcessLog.currentCaption() == "Connections";
+  const std::string_view tab = c.sstProcessLog.currentCaption();
+  const bool connections = tab == "Connections";
   c.chkCommunicationsFilter.SetVisible(connections);
   c.chkGroupByDay.SetVisible(connections);
+  c.chkAlarmFilter.SetVisible(tab == "Alarms");
+  // Only the first level of these two trees can be arranged.
+  const bool arranged = tab == "Processes" || tab == "Users";
+  c.lblGroupBy.SetVisible(arranged);
+  c.lstGroupBy.SetVisible(arranged);
+  c.updGroupBy.SetVisible(arranged);
 }
 
 void SetPeriodStart(ProcessLogControls& c, DateValue now) {

@@ -8,6 +8,8 @@
 #include "control/Enumerations.h"
 #include "control/ProcessLogControls.h"
 #include "platform/Dates.h"
+#include "platform/Platform.h"
+#include "util/KeyDates.h"
 
 namespace quorvel {
 
@@ -17,6 +19,8 @@ struct OptionsFilter {
   DateValue end = 0;
   StateFilter state = StateFilter::kAll;
   std::string groupBy;  // four digits: the item data of lstGroupBy's rows
+
+  util::Period period() const { return {start, end}; }
 };
 
 // The state filter that a text of cboState stands for, on whatever tab; nothing for any other text.
@@ -35,6 +39,12 @@ OptionsFilter ReadOptions(const ProcessLogControls& controls, StateFilter stateB
 // Makes the period `by` units longer, within its limits. It starts from what the text box shows; from the least length
 // where that is no number.
 void StepPeriod(ProcessLogControls& controls, std::int32_t by);
+
+// Moves the selected row of the group order one place up, or down; at either end it stays.
+void MoveGroup(ProcessLogControls& controls, bool up);
+
+// Shows where the period ends, which is no longer part of it; nothing where that cannot be told.
+void ShowPeriodEnd(ProcessLogControls& controls, const Platform& platform);
 
 // Cuts the period and its up-down to the one limit that serves every unit.
 void LimitPeriod(ProcessLogControls& controls);

@@ -4,6 +4,7 @@
 #include "control/ucProcessLog.h"
 #include "datasource/Contract.h"
 #include "list/Classification.h"
+#include "util/KeyPrefixes.h"
 #include "util/PublicFunctions.h"
 
 namespace quorvel {
@@ -11,10 +12,25 @@ namespace quorvel {
 using widgets::NodeId;
 
 tree::Place ucProcessLog::SelectedPlace() const {
-  if (!placeToReturnTo_.empty()) return placeToReturnTo_;
+  if (toReturnTo_) return toReturnTo_->node;
   const widgets::TreeView& tree = controls_.tvMotherList;
   if (tree.Selected() != NodeId::kNone) return tree::PlaceOf(tree, tree.Selected());
   return tree.Count() > 0 ? tree::PlaceOf(tree, tree.Child(NodeId::kNone, 0)) : tree::Place{};
+}
+
+Standing ucProcessLog::StandingNow() const {
+  if (toReturnTo_) return *toReturnTo_;
+  const widgets::TreeView& tree = controls_.tvMotherList;
+  Standing standing{.node = SelectedPlace(), .open = OpenNodesUnder(tree, NodeId::kNone)};
+  standing.top = tree::PlaceOf(tree, tree.Top());
+  if (tree.Selected() != NodeId::kNone) standing.listOf = tree.Key(tree.Selected());
+  if (shown_.view == View::kSystem) standing.listOf = util::kSystemPrefix;
+  standing.list = StandingIn(controls_.lvMotherList);
+  return standing;
+}
+
+Standing ucProcessLog::StandingFor(bool refresh) const {
+  return refresh ? StandingNow() : Standing{.node = tree::PlaceOfKey(f_strKey)};
 }
 
 std::string ucProcessLog::SelectedKey() const {
@@ -26,12 +42,12 @@ std::string ucProcessLog::SelectedKey() const {
   return key;
 }
 
-void ucProcessLog::SelectAfterBuild(const tree::Place& place) {
+void ucProcessLog::SelectAfterBuild(const Standing& standing) {
   widgets::TreeView& tree = controls_.tvMotherList;
   if (tree.Count() == 0) return;
   NodeId node = NodeId::kNone;
   try {
-    DescendTo(place, node);
+    DescendTo(standing.node, node);
   } catch (...) {
     if (node != NodeId::kNone) {
       OpenWayTo(node);
@@ -42,13 +58,36 @@ void ucProcessLog::SelectAfterBuild(const tree::Place& place) {
   if (node == NodeId::kNone) node = tree.Child(NodeId::kNone, 0);
   OpenWayTo(node);
   HandleNodeClick(node);
+  if (tree.Key(node) == standing.listOf) Restore(standing.list, platform_, controls_.lvMotherList);
+  OpenAgain(NodeId::kNone, standing.open);
+  ScrollToPlace(standing.top);
+}
+
+void ucProcessLog::OpenAgain(NodeId parent, const std::vector<OpenNode>& open) {
+  widgets::TreeView& tree = controls_.tvMotherList;
+  for (const auto& [again, node] : FindNodes(tree, parent, open)) {
+    LoadNode(node);
+    OpenAgain(node, again->below);
+    tree.SetExpanded(node, true);
+  }
+}
+
+void ucProcessLog::ScrollToPlace(const tree::Place& place) {
+  widgets::TreeView& tree = controls_.tvMotherList;
+  NodeId top = NodeId::kNone;
+  for (std::size_t i = 0; i < place.size(); ++i) {
+    const NodeId next = tree::ChildOnWay(tree, top, place, i);
+    if (next == NodeId::kNone) break;
+    top = next;
+  }
+  if (top != NodeId::kNone) tree.ScrollTo(top);
 }
 
 void ucProcessLog::DescendTo(const tree::Place& place, NodeId& reached) {
   const widgets::TreeView& tree = controls_.tvMotherList;
   for (std::size_t i = 0; i < place.size(); ++i) {
     if (reached != NodeId::kNone) LoadNode(reached);
-    NodeId next = tree::ChildAt(tree, reached, place[i]);
+    NodeId next = tree::ChildOnWay(tree, reached, place, i);
     if (next == NodeId::kNone && reached != NodeId::kNone) {
       // The station may be in another state by now, or the state be derived: its run knows.
       const ClickRoutine kind = RouteOf(tree.Key(reached)).click;
@@ -98,7 +137,17 @@ NodeId ucProcessLog::NodeOfRow(NodeId node, std::size_t row) {
   if (place < tree.ChildCount(node) && tree::KeyAt(tree, node, step) == tree.Key(tree.Child(node, place))) {
     return tree.Child(node, place);
   }
-  return tree::ChildAt(tree, node, step);
+  const NodeId child = tree::ChildAt(tree, node, step);
+  return child == NodeId::kNone ? NodeBelow(node, controls_.lvMotherList.Key(row)) : child;
+}
+
+// The list of a month names connections, which may stand under their days.
+NodeId ucProcessLog::NodeBelow(NodeId node, std::string_view key) {
+  const widgets::TreeView& tree = controls_.tvMotherList;
+  if (!key.starts_with(std::string(tree.Key(node)).append(util::kKeySeparator))) return NodeId::kNone;
+  NodeId reached = NodeId::kNone;
+  DescendTo(tree::PlaceOfKey(key), reached);
+  return reached != NodeId::kNone && tree.Key(reached) == key ? reached : NodeId::kNone;
 }
 
 std::string ucProcessLog::GetNextContextKeyInLogs(std::string_view key, std::string_view view) {

@@ -28,9 +28,11 @@ struct ProcessLogControls {
   widgets::TextBox txtDuring{"txtDuring"};
   widgets::UpDown updDuring{"updDuring"};
   widgets::ComboBox cboDuringUnit{"cboDuringUnit"};
+  widgets::Label lblPeriodEnd{"lblPeriodEnd"};
   widgets::CheckBox chkCommunicationsFilter{"chkCommunicationsFilter"};
   widgets::CheckBox chkGroupByDay{"chkGroupByDay"};
   widgets::CheckBox chkAlarmFilter{"chkAlarmFilter"};
+  widgets::Label lblGroupBy{"lblGroupBy"};
   widgets::ListBox lstGroupBy{"lstGroupBy"};
   widgets::UpDown updGroupBy{"updGroupBy"};
   widgets::Button cmdRefresh{"cmdRefresh"};

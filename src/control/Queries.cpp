@@ -61,7 +61,7 @@ datasource::Answer<datasource::TaskRunRecords> ucProcessLog::AskTasks(const tree
   return answer;
 }
 
-// This class lives for one question.
+// This class lives for one question, as do those of the backups.
 datasource::Answer<datasource::StepLogRecords> ucProcessLog::AskSteps(const tree::TaskOfRun& task) {
   const auto source = datasource::CreateRecordSource<datasource::StepLog>(factory_, f_strServerName);
   std::int32_t status = 0;
@@ -71,13 +71,110 @@ datasource::Answer<datasource::StepLogRecords> ucProcessLog::AskSteps(const tree
   return answer;
 }
 
-datasource::Answer<datasource::CommandLogRecords> ucProcessLog::AskCommands(std::int32_t stepLog) {
+ucProcessLog::CommandLogAnswer ucProcessLog::AskCommands(std::int32_t stepLog) {
   datasource::CommandLog& source = CommandLogSource();
   std::int32_t status = 0;
   source.GetCommandLogByStepLog(f_lngConnect, stepLog, status);
   auto answer = datasource::TakeAnswer(source, status);
   source.CloseCommandLogByStepLog(f_lngConnect);
   return answer;
+}
+
+ucProcessLog::CommandLogAnswer ucProcessLog::AskDaysOfConnections(StateFilter state) {
+  datasource::CommandLog& source = CommandLogSource();
+  std::int32_t status = 0;
+  // The newest connection of each station has no period.
+  const util::Period period = state == StateFilter::kLastExecution ? util::Period{} : shown_.filter.period();
+  source.GetCommunicationsByMonth(f_lngConnect, period.from, period.to, static_cast<std::int32_t>(state), shown_.userId,
+                                  status);
+  auto answer = datasource::TakeAnswer(source, status);
+  source.CloseCommunicationsByMonth(f_lngConnect);
+  return answer;
+}
+
+ucProcessLog::CommandLogAnswer ucProcessLog::AskConnections(const util::Period& period, bool failedOnly) {
+  datasource::CommandLog& source = CommandLogSource();
+  std::int32_t status = 0;
+  source.GetCommunications(f_lngConnect, period.from, period.to, static_cast<std::int32_t>(shown_.filter.state),
+                           shown_.userId, failedOnly ? 1 : 0, status);
+  auto answer = datasource::TakeAnswer(source, status);
+  source.CloseCommunications(f_lngConnect);
+  return answer;
+}
+
+ucProcessLog::CommandLogAnswer ucProcessLog::AskCommandsOfConnection(std::int32_t communication) {
+  datasource::CommandLog& source = CommandLogSource();
+  std::int32_t status = 0;
+  source.GetCommandLogByCommunication(f_lngConnect, communication, status);
+  auto answer = datasource::TakeAnswer(source, status);
+  source.CloseCommandLogByCommunication(f_lngConnect);
+  return answer;
+}
+
+datasource::Answer<datasource::AlarmsLogRecords> ucProcessLog::AskAlarms() {
+  datasource::AlarmsLog& source = AlarmsSource();
+  std::int32_t status = 0;
+  source.GetAlarms(f_lngConnect, shown_.alarmId, kReserved, status);
+  auto answer = datasource::TakeAnswer(source, status);
+  source.CloseAlarms(f_lngConnect);
+  return answer;
+}
+
+datasource::Answer<datasource::AlarmsLogRecords> ucProcessLog::AskAlarmsOfDay(const tree::AlarmsOfNode& wanted) {
+  constexpr std::int32_t kActiveAndAcknowledged = -1;
+  datasource::AlarmsLog& source = AlarmsSource();
+  std::int32_t status = 0;
+  source.GetAlarmsByDay(f_lngConnect, wanted.day, wanted.owner, kActiveAndAcknowledged, status);
+  auto answer = datasource::TakeAnswer(source, status);
+  source.CloseAlarmsByDay(f_lngConnect);
+  return answer;
+}
+
+datasource::Answer<datasource::SavesRecords> ucProcessLog::AskSaves(const tree::BackupsOfNode& wanted) {
+  const auto source = datasource::CreateRecordSource<datasource::Saves>(factory_, f_strServerName);
+  std::int32_t status = 0;
+  source->GetSaves(f_lngConnect, wanted.onStation, wanted.user, wanted.period.from, wanted.period.to, status);
+  auto answer = datasource::TakeAnswer(*source, status);
+  source->CloseSaves(f_lngConnect);
+  return answer;
+}
+
+datasource::Answer<datasource::SavesRecords> ucProcessLog::AskSaveFiles(std::int32_t save) {
+  const auto source = datasource::CreateRecordSource<datasource::Saves>(factory_, f_strServerName);
+  const std::int32_t failedOnly = shown_.filter.state == StateFilter::kError ? 1 : 0;
+  std::int32_t status = 0;
+  source->GetSaveFiles(f_lngConnect, save, failedOnly, "", status);
+  auto answer = datasource::TakeAnswer(*source, status);
+  source->CloseSaveFiles(f_lngConnect);
+  return answer;
+}
+
+datasource::Answer<datasource::UsersImportRecords> ucProcessLog::AskImports(std::int32_t importId) {
+  datasource::UsersImport& source = ImportSource();
+  std::int32_t status = 0;
+  source.GetUsersImports(f_lngConnect, importId, status);
+  auto answer = datasource::TakeAnswer(source, status);
+  source.CloseUsersImports(f_lngConnect);
+  return answer;
+}
+
+datasource::Answer<datasource::UsersImportRecords> ucProcessLog::AskImportRuns(const tree::ImportPart& part) {
+  datasource::UsersImport& source = ImportSource();
+  std::int32_t status = 0;
+  source.GetUsersImportByProcess(f_lngConnect, part.import, part.name, part.process, part.run, status);
+  auto answer = datasource::TakeAnswer(source, status);
+  source.CloseUsersImportByProcess(f_lngConnect);
+  return answer;
+}
+
+// Lives for one question too, and has no release.
+datasource::Answer<datasource::TaskSchedulerLogRecords> ucProcessLog::AskSystemLogs() {
+  constexpr std::int32_t kSchedulersLog = 3;  // a kind of log, no level
+  const auto source = datasource::CreateRecordSource<datasource::TaskSchedulerLog>(factory_, f_strServerName);
+  std::int32_t status = 0;
+  source->GetTaskSchedulerLogs(f_lngConnect, shown_.filter.start, shown_.filter.end, kSchedulersLog,
+                               static_cast<std::int32_t>(shown_.filter.state), shown_.companyId, status);
+  return datasource::TakeAnswer(*source, status);
 }
 
 }  // namespace quorvel

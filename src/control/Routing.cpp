@@ -44,12 +44,14 @@ constexpr NodeRoute kRoutes[] = {
     {util::kServerBackupPrefix, 6, Expand::kExpandBackupLevel4, Click::kListAllSubNodes},
     {util::kServerBackupPrefix, 7, Expand::kNone, Click::kListAllSubNodes},
     {util::kServerBackupPrefix, 10, Expand::kExpandBackupLevel5, Click::kNodeBackupFiles},
+    {util::kServerBackupPrefix, 11, Expand::kNone, Click::kNodeBackupFiles},  // folder of a backup
     {util::kStationBackupPrefix, 3, Expand::kExpandBackupLevel1, Click::kListAllSubNodes},
     {util::kStationBackupPrefix, 4, Expand::kExpandBackupLevel2, Click::kListAllSubNodes},
     {util::kStationBackupPrefix, 5, Expand::kExpandBackupLevel3, Click::kListAllSubNodes},
     {util::kStationBackupPrefix, 6, Expand::kExpandBackupLevel4, Click::kListAllSubNodes},
     {util::kStationBackupPrefix, 7, Expand::kNone, Click::kListAllSubNodes},
     {util::kStationBackupPrefix, 10, Expand::kExpandBackupLevel5, Click::kNodeBackupFiles},
+    {util::kStationBackupPrefix, 11, Expand::kNone, Click::kNodeBackupFiles},
     {"List", 1, Expand::kNone, Click::kListAllSubNodes},  // system log
 };
 constexpr NodeRoute kNoRoute{"", 0, ExpandRoutine::kNone, ClickRoutine::kNone};
@@ -96,16 +98,9 @@ const NodeRoute& RouteOf(std::string_view key) {
 }
 
 std::string_view NameOf(View view) {
-  switch (view) {
-    case View::kProcesses:
-      return "Processes";
-    case View::kUsers:
-      return "Users";
-    case View::kConnections:
-      return "Connections";
-    default:
-      return {};
-  }
+  static constexpr std::string_view kNames[] = {"",       "Processes", "Users",   "Connections",
+                                                "System", "Alarms",    "Backups", "User imports"};
+  return kNames[static_cast<std::size_t>(view)];
 }
 
 View ViewOfTab(tlFromType fromType, std::string_view tabCaption) {

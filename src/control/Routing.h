@@ -59,10 +59,10 @@ std::span<const NodeRoute> NodeRoutes();
 // The route of a node by its key; one that does nothing for a key of no known shape.
 const NodeRoute& RouteOf(std::string_view key);
 
-// The views that a tab can build.
-enum class View { kNone, kProcesses, kUsers, kConnections, kSystem, kAlarms, kBackups };
+// The views: those that a tab can build, and the imports, which the host alone can.
+enum class View { kNone, kProcesses, kUsers, kConnections, kSystem, kAlarms, kBackups, kImports };
 
-// The name under which a view is known to the navigation context; "" for one that it does not know.
+// The caption of a view, which is that of its own tab; "" for none.
 std::string_view NameOf(View view);
 
 // Which view a tab click builds. Tabs are told by their caption.

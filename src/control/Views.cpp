@@ -1,35 +1,79 @@
-// The builders of the trees and the lists behind their nodes.
+// The builders of the views: what is asked for, and what it becomes in the tree and the list.
+#include <limits>
 #include <string>
-#include <utility>
 
-#include "control/Hourglass.h"
-#include "control/Working.h"
-#include "control/ucProcessLog.h"
+#include "control/Entry.h"
+#include "list/SystemList.h"
+#include "tree/ConnectionTree.h"
 #include "tree/ProcessTree.h"
 #include "tree/UserTree.h"
+#include "util/KeyPrefixes.h"
 
 namespace quorvel {
+namespace {
 
 using datasource::Propagating;
 
-template <class Body>
-void ucProcessLog::Build(std::string_view label, Body&& body) {
-  if (f_blnClickNode) {
-    throw Error(static_cast<std::int32_t>(SystemError::kInvalidCall), std::string(label),
-                "The viewer is at work on an earlier request");
-  }
-  const Working working(f_blnClickNode);
-  std::forward<Body>(body)();
+constexpr std::int32_t kAny = -1;
+
+// The procedure that builds a view, as support knows it.
+std::string_view BuilderOf(View view) {
+  static constexpr std::string_view kLabels[] = {
+      "",
+      "Quorvel: ucProcessLog.m_GetLogByProcess",
+      "Quorvel: ucProcessLog.m_GetLogByUser",
+      "Quorvel: ucProcessLog.m_GetLogByCommunication",
+      "Quorvel: ucProcessLog.ListAllSystemsLogs",
+      "Quorvel: ucProcessLog.m_GetLogByAlarms",
+      "Quorvel: ucProcessLog.m_GetLogByBackup",
+      "Quorvel: ucProcessLog.m_GetLogByImports",
+  };
+  return kLabels[static_cast<std::size_t>(view)];
 }
 
+enumLogsType LogsTypeOf(View view) {
+  switch (view) {
+    case View::kProcesses:
+    case View::kUsers:
+      return enumLogsType::enumProcessus;
+    case View::kConnections:
+      return enumLogsType::enumCommunication;
+    case View::kImports:
+      return enumLogsType::enumImports;
+    default:
+      return enumLogsType::enumAllLogsType;
+  }
+}
+
+}  // namespace
+
 void ucProcessLog::m_GetLogByProcess(bool refresh) {
-  Build("Quorvel: ucProcessLog.m_GetLogByProcess",
-        [&] { BuildByProcess(refresh ? SelectedPlace() : tree::PlaceOfKey(f_strKey)); });
+  BuildForHost(View::kProcesses, refresh);
 }
 
 void ucProcessLog::m_GetLogByUser(bool refresh) {
-  Build("Quorvel: ucProcessLog.m_GetLogByUser",
-        [&] { BuildByUser(refresh ? SelectedPlace() : tree::PlaceOfKey(f_strKey)); });
+  BuildForHost(View::kUsers, refresh);
+}
+
+void ucProcessLog::m_GetLogByCommunication(bool refresh) {
+  BuildForHost(View::kConnections, refresh);
+}
+
+void ucProcessLog::m_GetLogByBackup(bool refresh) {
+  BuildForHost(View::kBackups, refresh);
+}
+
+void ucProcessLog::m_GetLogByAlarms(bool refresh) {
+  BuildForHost(View::kAlarms, refresh);
+}
+
+void ucProcessLog::m_GetLogByImports(std::int32_t& /*view*/, std::int32_t& importId, std::int32_t& /*passed*/) {
+  f_lngImportId = importId;
+  BuildForHost(View::kImports, false);
+}
+
+void ucProcessLog::BuildForHost(View view, bool refresh) {
+  Build(BuilderOf(view), [&] { BuildView(view, StandingFor(refresh)); });
 }
 
 void ucProcessLog::m_GetLogAll(StateFilter& state) {
@@ -41,42 +85,38 @@ void ucProcessLog::BuildAll(StateFilter state) {
     const Hourglass hourglass(platform_);
     const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
     if (view == View::kNone) return;
-    RequireBuilt(view);
-    const tree::Place place = SelectedPlace();
+    const Standing standing = StandingNow();
     Init();
     OptionsFilter filter = ReturnOptionsFilter(state, false);
     filter.state = state;
     ControlsVisible(static_cast<std::int32_t>(state));
-    BuildTree(view, filter, place);
+    BuildTree(view, filter, standing);
   });
 }
 
-void ucProcessLog::BuildByProcess(const tree::Place& place) {
-  Propagating("Quorvel: ucProcessLog.m_GetLogByProcess", [&] {
-    const Hourglass hourglass(platform_);
-    Init();
-    BuildTree(View::kProcesses, ReturnOptionsFilter(StateFilter::kAll, true), place);
-  });
-}
-
-void ucProcessLog::BuildByUser(const tree::Place& place) {
-  Propagating("Quorvel: ucProcessLog.m_GetLogByUser", [&] {
-    const Hourglass hourglass(platform_);
-    Init();
-    BuildTree(View::kUsers, ReturnOptionsFilter(StateFilter::kAll, true), place);
-  });
-}
-
-void ucProcessLog::BuildView(View view, const tree::Place& place) {
+void ucProcessLog::BuildView(View view, const Standing& standing) {
   if (view == View::kNone) return;
-  RequireBuilt(view);
-  view == View::kUsers ? BuildByUser(place) : BuildByProcess(place);
+  Propagating(BuilderOf(view), [&] {
+    const Hourglass hourglass(platform_);
+    Init();
+    BuildTree(view, ReturnOptionsFilter(StateFilter::kAll, true), standing);
+  });
 }
 
-void ucProcessLog::RequireBuilt(View view) const {
-  if (view == View::kProcesses || view == View::kUsers) return;
-  throw Error(SystemError::kActionUnsupported,
-              "The view \"" + std::string(controls_.sstProcessLog.currentCaption()) + "\" is not part of this version");
+// What a host has a one-process viewer for is the state: Refresh hands it on as it is chosen, and the other viewers
+// take it from the panel.
+void ucProcessLog::BuildAgain() {
+  if (f_tlFromType == tlFromType::tlOneProcess) {
+    BuildAll(StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll));
+    return;
+  }
+  // The host's whole log list is the alarms view here, though its tab click builds nothing.
+  const bool logs = f_tlFromType == tlFromType::tlLogs;
+  BuildView(logs ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()), StandingNow());
+}
+
+Error ucProcessLog::NotInThisVersion(std::string_view what) {
+  return {SystemError::kActionUnsupported, std::string(what) + " is not part of this version"};
 }
 
 void ucProcessLog::ClearPanes() {
@@ -88,27 +128,140 @@ void ucProcessLog::ClearPanes() {
 
 // No batch of the tree is open while the component or the host is called: either may repaint, and a picture is drawn
 // from what the observers were told.
-void ucProcessLog::BuildTree(View view, const OptionsFilter& filter, const tree::Place& place) {
-  placeToReturnTo_ = place;
-  shown_ = {view, filter, f_lngProcessId, IdentifierFor(tlFromType::tlOneUser),
-            IdentifierFor(tlFromType::tlOneCompany)};
+void ucProcessLog::BuildTree(View view, const OptionsFilter& filter, const Standing& standing) {
+  toReturnTo_ = standing;
+  shown_ = {view,
+            filter,
+            f_lngProcessId,
+            IdentifierFor(tlFromType::tlOneUser),
+            IdentifierFor(tlFromType::tlOneCompany),
+            IdentifierFor(tlFromType::tlOneAlarm),
+            f_lngImportId};
+  NameTabs(view);
+  ModifyMotherListSize(view == View::kSystem);
   ClearPanes();
-  if (view == View::kUsers) {
-    const auto parts = AskParts(shown_.processId, shown_.userId);
-    tree::AppendUserNodes(parts.records, parts.count, controls_.tvMotherList);
-  } else {
-    controls_.sstProcessLog.SetCaption(0, "Processes");
-    controls_.sstProcessLog.SetCaption(1, "Users");
-    const auto stations = AskProcesses();
-    tree::AppendProcessNodes(stations.records, stations.count, platform_, errors_, controls_.tvMotherList);
-  }
+  if (view == View::kSystem) return ListAllSystemsLogs(standing);
+  f_lngLogsType = LogsTypeOf(view);
+  AppendRoots();
   SetfraListCaption();
-  ModifyMotherListSize();
-  SelectAfterBuild(place);
+  SelectAfterBuild(standing);
+}
+
+// Hosts find the view that they built under a tab of its name.
+void ucProcessLog::NameTabs(View view) {
+  widgets::TabStrip& tabs = controls_.sstProcessLog;
+  if (view == View::kProcesses) {
+    tabs.SetCaption(0, NameOf(View::kProcesses));
+    tabs.SetCaption(1, NameOf(View::kUsers));
+  } else if (view == View::kAlarms || view == View::kImports) {
+    tabs.SetCaption(tabs.current(), NameOf(view));
+  }
+}
+
+void ucProcessLog::AppendRoots() {
+  widgets::TreeView& tree = controls_.tvMotherList;
+  const std::string& groupBy = shown_.filter.groupBy;
+  switch (shown_.view) {
+    case View::kProcesses: {
+      const auto stations = AskProcesses();
+      return tree::AppendProcessNodes(stations.records, stations.count, groupBy, platform_, errors_, tree);
+    }
+    case View::kUsers: {
+      const auto parts = AskParts(shown_.processId, shown_.userId);
+      return tree::AppendUserNodes(parts.records, parts.count, groupBy, tree);
+    }
+    case View::kAlarms: {
+      const auto alarms = AskAlarms();
+      const bool one = shown_.alarmId != kAny || shown_.userId != kAny;
+      return tree::AppendAlarmNodes(alarms.records, alarms.count,
+                                    one ? tree::AlarmOwners::kOne : tree::AlarmOwners::kAll,
+                                    AlarmsWanted(shown_.userId), platform_, tree);
+    }
+    case View::kImports: {
+      if (shown_.importId <= 0) return;
+      const auto imports = AskImports(shown_.importId);
+      return tree::AppendImportNodes(imports.records, imports.count, shown_.importId, tree);
+    }
+    case View::kConnections:
+      return AppendConnections();
+    case View::kBackups:
+      return AppendBackups();
+    default:
+      return;
+  }
+}
+
+// Which days have failed connections is a question of its own, where it can have an answer: of the newest connections
+// of each station it is not asked by day, and those that went well have no failed ones.
+void ucProcessLog::AppendConnections() {
+  const StateFilter state = shown_.filter.state;
+  const auto days = AskDaysOfConnections(state);
+  CommandLogAnswer failed;
+  if (state == StateFilter::kError) failed = days;
+  if (state == StateFilter::kAll) failed = AskDaysOfConnections(StateFilter::kError);
+  tree::AppendMonthNodes(days, failed, controls_.chkGroupByDay.checked(), platform_, controls_.tvMotherList);
+}
+
+void ucProcessLog::AppendBackups() {
+  for (const tree::BackupPlace place : {tree::BackupPlace::kServer, tree::BackupPlace::kStations}) {
+    const auto saves = AskSaves({static_cast<std::int32_t>(place), kAny, ShownPeriod()});
+    tree::AppendBackupRoots(saves.records, saves.count, place, BackupsWanted(), controls_.tvMotherList);
+  }
+}
+
+void ucProcessLog::ListAllSystemsLogs(const Standing& standing) {
+  widgets::ListView& list = controls_.lvMotherList;
+  PrepareList(list::SystemListHeaders());
+  if (f_lngLogsType != enumLogsType::enumImports) {
+    const auto logs = AskSystemLogs();
+    list.SetRows(list::SystemListRows(logs.records, logs.count, platform_));
+    if (logs.count > 0) list.SetSelection(widgets::RowRanges(widgets::RowRange{0, 1}));
+  }
+  toReturnTo_.reset();
+  if (standing.listOf == util::kSystemPrefix) Restore(standing.list, platform_, list);
+  SetfraListCaption();
+  MajStatusBarInfrmMain();
+}
+
+// The last execution has no period: whenever it was.
+util::Period ucProcessLog::ShownPeriod() const {
+  if (shown_.filter.state != StateFilter::kLastExecution) return shown_.filter.period();
+  constexpr DateValue kEver = std::numeric_limits<DateValue>::max();
+  return {-kEver, kEver};
+}
+
+// Backups have no other outcome.
+tree::BackupsShown ucProcessLog::BackupsWanted() const {
+  if (shown_.filter.state == StateFilter::kOk) return tree::BackupsShown::kOk;
+  return shown_.filter.state == StateFilter::kError ? tree::BackupsShown::kFailed : tree::BackupsShown::kAll;
+}
+
+list::AlarmChoice ucProcessLog::AlarmsWanted(std::int32_t owner) const {
+  using list::AlarmsShown;
+  list::AlarmChoice choice{.owner = owner};
+  if (shown_.filter.state != StateFilter::kLastExecution) choice.period = shown_.filter.period();
+  // An alarm is in order once somebody has seen to it, and an error until then; it has no other state.
+  switch (shown_.filter.state) {
+    case StateFilter::kOk:
+      choice.shown = AlarmsShown::kAcknowledged;
+      break;
+    case StateFilter::kError:
+      choice.shown = AlarmsShown::kActive;
+      break;
+    case StateFilter::kInProgress:
+    case StateFilter::kUnknown:
+      choice.shown = AlarmsShown::kNone;
+      break;
+    default:
+      break;
+  }
+  if (!controls_.chkAlarmFilter.checked()) return choice;
+  const bool active = choice.shown == AlarmsShown::kAll || choice.shown == AlarmsShown::kActive;
+  choice.shown = active ? AlarmsShown::kActive : AlarmsShown::kNone;
+  return choice;
 }
 
 std::int32_t ucProcessLog::IdentifierFor(tlFromType type) const {
-  constexpr std::int32_t kAny = -1;
   return f_tlFromType == type && f_lngIdAppLog > 0 ? f_lngIdAppLog : kAny;
 }
 

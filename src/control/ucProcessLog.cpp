@@ -5,7 +5,9 @@
 #include <system_error>
 
 #include "control/Layout.h"
+#include "control/Tabs.h"
 #include "tree/StateGroups.h"
+#include "util/ComboSelection.h"
 
 namespace quorvel {
 namespace {
@@ -31,12 +33,6 @@ std::optional<std::int32_t> NumberWithin(const std::optional<std::string>& text,
   return number;
 }
 
-std::vector<widgets::Tab> AllTabs() {
-  // A tab whose view is not built yet is shown, but cannot be chosen.
-  return {{"Processes", true, true}, {"Users", true, true},   {"Connections", true, false},
-          {"System", true, false},   {"Alarms", true, false}, {"Backups", true, false}};
-}
-
 }  // namespace
 
 ucProcessLog::ucProcessLog(Platform& platform, datasource::RecordSourceFactory& factory)
@@ -45,18 +41,17 @@ ucProcessLog::ucProcessLog(Platform& platform, datasource::RecordSourceFactory& 
     ProcessLogControls& c = controls_;
     c.imgSplitter.SetBounds({kFirstTreeWidth, 0, 0, 0});
     c.picSplitter.SetVisible(false);
-    c.lstGroupBy.SetVisible(false);
-    c.updGroupBy.SetVisible(false);
-    c.chkAlarmFilter.SetVisible(false);
     LayOut();
     c.sstProcessLog.SetTabs(AllTabs());
+    ShowTabs(c.sstProcessLog, f_tlFromType, tabsReduced_, tabChosen_);
     FillOptionTexts(c);
     const DateValue now = platform_.Now();
     c.dtpDate.SetValue(DatePart(now));
     c.dtpHour.SetValue(TimePart(now));
     c.txtDuring.SetText(kDefaultPeriod);
+    ShowPeriodEnd(c, platform_);
     FillStateList(c.cboState, c.sstProcessLog.currentCaption());
-    c.cboState.Select(*c.cboState.RowOfText("Last execution"));
+    util::SelectStringIn(c.cboState, "Last execution");
     ControlsVisible(static_cast<std::int32_t>(StateFilter::kLastExecution));
     InitListView();
     SetfraListCaption();
@@ -67,17 +62,10 @@ ucProcessLog::~ucProcessLog() {
   // Hosts that share a component among controls rely on this order.
   commandLog_.reset();
   processLog_.reset();
+  alarmsLog_.reset();
   labels_.reset();
   taskRuns_.reset();
-}
-
-void ucProcessLog::p_Connect(std::int32_t value) {
-  if (value != f_lngConnect) labelsRead_ = false;
-  f_lngConnect = value;
-}
-
-std::int32_t ucProcessLog::p_ListCount() const {
-  return static_cast<std::int32_t>(controls_.lvMotherList.Count());
+  usersImport_.reset();
 }
 
 void ucProcessLog::Init() {
@@ -96,6 +84,7 @@ void ucProcessLog::Init() {
     controls_.txtDuring.SetText(period ? std::to_string(*period) : std::string(kDefaultPeriod));
     controls_.cboDuringUnit.Select(unit ? static_cast<std::size_t>(*unit) : kDaysRow);
     SetPeriodStart(controls_, platform_.Now());
+    ShowPeriodEnd(controls_, platform_);
     labelsRead_ = true;
   });
 }
@@ -161,7 +150,8 @@ bool ucProcessLog::ClearColumnHeaderLV(std::string_view firstCaption) {
 
 void ucProcessLog::SetfraListCaption() {
   Propagating("Quorvel: ucProcessLog.SetfraListCaption", [&] {
-    const std::int32_t count = tree::CountItemsInTreeview(controls_.tvMotherList);
+    const bool system = shown_.view == View::kSystem;  // which has no tree
+    const std::int32_t count = system ? p_ListCount() : tree::CountItemsInTreeview(controls_.tvMotherList);
     // A host may show a view under the tab of another.
     const std::string_view view = NameOf(shown_.view);
     const std::string_view name = view.empty() ? controls_.sstProcessLog.currentCaption() : view;
@@ -169,8 +159,11 @@ void ucProcessLog::SetfraListCaption() {
   });
 }
 
-void ucProcessLog::ModifyMotherListSize() {
-  Propagating("Quorvel: ucProcessLog.ModifyMotherListSize", [&] { SizeControls(); });
+void ucProcessLog::ModifyMotherListSize(bool listAlone) {
+  Propagating("Quorvel: ucProcessLog.ModifyMotherListSize", [&] {
+    controls_.tvMotherList.SetVisible(!listAlone);
+    SizeControls();
+  });
 }
 
 datasource::ProcessLog& ucProcessLog::ProcessLogSource() {
@@ -186,6 +179,16 @@ datasource::CommandLog& ucProcessLog::CommandLogSource() {
 datasource::Quorvel& ucProcessLog::TaskRunSource() {
   if (!taskRuns_) taskRuns_ = datasource::CreateRecordSource<datasource::Quorvel>(factory_, f_strServerName);
   return *taskRuns_;
+}
+
+datasource::AlarmsLog& ucProcessLog::AlarmsSource() {
+  if (!alarmsLog_) alarmsLog_ = datasource::CreateRecordSource<datasource::AlarmsLog>(factory_, f_strServerName);
+  return *alarmsLog_;
+}
+
+datasource::UsersImport& ucProcessLog::ImportSource() {
+  if (!usersImport_) usersImport_ = datasource::CreateRecordSource<datasource::UsersImport>(factory_, f_strServerName);
+  return *usersImport_;
 }
 
 }  // namespace quorvel

@@ -6,23 +6,36 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "control/Enumerations.h"
+#include "control/HostEvents.h"
 #include "control/Options.h"
 #include "control/ProcessLogControls.h"
+#include "control/Project.h"
 #include "control/Routing.h"
+#include "control/Standing.h"
+#include "datasource/AlarmsLog.h"
 #include "datasource/CommandLog.h"
 #include "datasource/ErrorsProcess.h"
 #include "datasource/Labels.h"
 #include "datasource/ProcessLog.h"
 #include "datasource/Quorvel.h"
 #include "datasource/RecordSource.h"
+#include "datasource/Saves.h"
 #include "datasource/StepLog.h"
+#include "datasource/TaskSchedulerLog.h"
+#include "datasource/UsersImport.h"
+#include "list/AlarmRecord.h"
 #include "list/ListParts.h"
 #include "platform/Platform.h"
+#include "tree/AlarmTree.h"
+#include "tree/BackupTree.h"
+#include "tree/ImportTree.h"
 #include "tree/NavigationContext.h"
 #include "tree/Place.h"
 #include "tree/TaskTree.h"
+#include "widgets/ListItems.h"
 #include "widgets/TreeView.h"
 
 namespace quorvel {
@@ -47,7 +60,15 @@ class ucProcessLog {
   // The identifiers of the node selected last, which the next view opens at.
   const tree::NavigationContext& context() const { return context_; }
 
+  // What the viewer tells its host; each subscriber hears of everything, in the order in which they came. A subscriber
+  // must unsubscribe before it goes, and may do so from an event.
+  void Subscribe(HostEvents& host);
+  void Unsubscribe(HostEvents& host);
+
   // Properties.
+  widgets::ListItems ListItems() const { return widgets::ListItems(controls_.lvMotherList); }
+  // Nothing when no row is selected.
+  std::optional<widgets::ListItem> SelectedItem() const;
   std::int32_t p_Connect() const { return f_lngConnect; }
   // The index of an open connection; -1 = none. The installation's settings are read again afterwards.
   void p_Connect(std::int32_t value);
@@ -55,18 +76,32 @@ class ucProcessLog {
   // The process to show, -1 = all.
   void p_ProcessId(std::int32_t value) { f_lngProcessId = value; }
   tlFromType p_FromType() const { return f_tlFromType; }
-  // Decides what a tab builds; nothing is built on assignment.
-  void p_FromType(tlFromType value) { f_tlFromType = value; }
+  // Decides which tabs there are and what each builds; nothing is built on assignment.
+  void p_FromType(tlFromType value);
+  // For hosts with one view: whatever the value, the current tab is called "Processes" and tabs 1 to 3 go.
+  void p_TabStripVisible(bool value);
   std::int32_t p_IdAppLog() const { return f_lngIdAppLog; }
   // The station (tlOneUser) or company (tlOneCompany) that p_FromType names; 0 = all.
   void p_IdAppLog(std::int32_t value) { f_lngIdAppLog = value; }
   const std::string& p_Key() const { return f_strKey; }
   // The key of the node to select after a build, when it exists then.
   void p_Key(std::string_view value) { f_strKey = value; }
-  // Name of the server on which record sources are created, "" = this machine.
-  void p_ServerName(std::string_view value) { f_strServerName = value; }
+  // One value for all viewers of the thread, see Project.h.
+  static bool p_blnShowUserInfo() { return Project().blnShowUserInfo; }
+  static void p_blnShowUserInfo(bool value) { Project().blnShowUserInfo = value; }
+  static bool p_blnShowProcessAlarm() { return Project().blnShowProcessAlarm; }
+  static void p_blnShowProcessAlarm(bool value) { Project().blnShowProcessAlarm = value; }
+  static bool p_blnShowAlarms() { return Project().blnShowAlarms; }
+  static void p_blnShowAlarms(bool value) { Project().blnShowAlarms = value; }
   // Number of rows in the list.
   std::int32_t p_ListCount() const;
+  // The help file that errors name from then on which have none of their own, of all viewers of the thread.
+  static void p_strHelpFile(std::string_view value) { datasource::SetHelpFile(value); }
+  // Name of the server on which record sources are created, "" = this machine.
+  void p_ServerName(std::string_view value) { f_strServerName = value; }
+  // Who works at the host's console, and the rights of that user as bits.
+  void p_ConsoleLoginUserName(std::string_view value) { f_strConsoleLoginUserName = value; }
+  void p_ConsoleLoginUserRight(std::int32_t value) { f_lngConsoleLoginUserRight = value; }
 
   // Builds the tree grouped by process: processes, their runs, the state groups of each run. `refresh`: the same view
   // is built again.
@@ -74,8 +109,35 @@ class ucProcessLog {
   // Builds the tree grouped by station: stations, the processes that ran there, their runs with the station's own
   // outcome.
   void m_GetLogByUser(bool refresh = false);
+  // Builds the tree of alarms: all of them, each owner, the days of each. The current tab is called "Alarms".
+  void m_GetLogByAlarms(bool refresh = false);
+  // Builds the tree of connections: months, with "Group by day" their days, and the connections.
+  void m_GetLogByCommunication(bool refresh = false);
+  // Builds the tree of backups: where they were made, years, months, days, names, backups and their folders.
+  void m_GetLogByBackup(bool refresh = false);
+  // Builds the tree of one user import: names, the processes under each, and their runs; an empty one for an identifier
+  // of 0 or less. Hosts pass p_IdAppLog. `view` and `passed` come back as they were. The current tab is called "User
+  // imports".
+  void m_GetLogByImports(std::int32_t& view, std::int32_t& importId, std::int32_t& passed);
   // Builds the selected tab's own view for one state filter, for p_ProcessId (-1 = all).
   void m_GetLogAll(StateFilter& state);
+
+  // Sets all thirteen to false, whatever is selected: hosts rely on it, and take the menus from the viewer itself.
+  void m_GetMenuState(bool& menuVisible, bool& openEnabled, bool& copyNoteBookEnabled, bool& openJoinFileVisible,
+                      bool& executionReportEnabled, bool& selectAllEnabled, bool& stopExecutionEnabled,
+                      bool& acquittedAlarmEnabled, bool& activatedAlarmEnabled, bool& gotoProcessEnabled,
+                      bool& tvExpandAllEnabled, bool& tvCollapseAllEnabled, bool& openJoinFileEnabled) const;
+  // Runs the menu command of this code, see Commands.cpp; another code does nothing. As the menus do, it shows errors.
+  void m_MenuCall(std::int32_t& command);
+  // Opens the selected row, copies the list, in the same way; without a selected row nothing is opened.
+  void m_Open();
+  void m_Copy();
+  // Error 445: not part of this version.
+  void m_GetDetail();
+  // Selects every row of the list.
+  void m_SelectAll();
+  // Loads the connections under a node of the connections view, unless they are there.
+  void tvMotherList_ExpandCommunications(widgets::NodeId node);
 
   // Remembers what the node of this key stands for, and gives the key of the equivalent node in the view "Processes",
   // "Users" or "Connections"; "" for any other view, an empty key, and a step that no connection carried. Never raises:
@@ -97,9 +159,20 @@ class ucProcessLog {
   void cmdRefresh_Click();
   void cboState_Click();
   void cboDuringUnit_Click();
+  void dtpDate_Change();
+  void dtpHour_Change();
+  void txtDuring_Change();
   // One more or one less than the length of the period that the text box shows.
   void updDuring_UpClick();
   void updDuring_DownClick();
+  // Move the selected row of the group order.
+  void updGroupBy_UpClick();
+  void updGroupBy_DownClick();
+  // Fill the list for the selected node again.
+  void chkCommunicationsFilter_Click();
+  void chkAlarmFilter_Click();
+  // Builds the view again.
+  void chkGroupByDay_Click();
   void tvMotherList_Expand(widgets::NodeId node);
   void tvMotherList_Collapse(widgets::NodeId node);
   void tvMotherList_NodeClick(widgets::NodeId node);
@@ -109,6 +182,13 @@ class ucProcessLog {
   void lvMotherList_DblClick();
   // Enter (13) does what a double click does; other keys are the list's own.
   void lvMotherList_KeyDown(std::int32_t keyCode);
+  void lvMotherList_GotFocus();
+  void lvMotherList_LostFocus();
+  void tvMotherList_GotFocus();
+  void tvMotherList_LostFocus();
+  void mnu_select_all_Click();
+  void mnu_popupTV_Expand_all_Click();
+  void mnu_popupTV_Collapse_all_Click();
   void imgSplitter_MouseDown();
   // `x`: the pointer from the left edge of the grip, in twips.
   void imgSplitter_MouseMove(widgets::Twips x);
@@ -117,6 +197,19 @@ class ucProcessLog {
   void VScroll_Change();
 
  private:
+  struct Command;
+  static constexpr std::int32_t kOpen = 2;
+  static constexpr std::int32_t kCopy = 6;
+  static const Command* CommandOf(std::int32_t code);
+  // Error 445.
+  static Error NotInThisVersion(std::string_view what);
+
+  // Shows the tabs that this host has use for.
+  void OfferTabs();
+  // Raises an event at all subscribers.
+  template <class Event, class... Values>
+  void Raise(Event event, const Values&... values);
+
   // Reads the installation's settings when they were not read for this connection yet, and presets the period.
   void Init();
   std::optional<std::string> LabelValue(datasource::Labels& labels, std::string_view name);
@@ -126,7 +219,8 @@ class ucProcessLog {
   void LayOut();
   void InitListView();
   void SetfraListCaption();
-  void ModifyMotherListSize();
+  // Gives the list the whole frame, or shows the tree beside it.
+  void ModifyMotherListSize(bool listAlone);
   // Clears the headers when they are not those that begin with this caption; tells whether they must be set.
   bool ClearColumnHeaderLV(std::string_view firstCaption);
 
@@ -139,23 +233,38 @@ class ucProcessLog {
   template <class Body>
   void Handle(std::string_view label, Body&& body);
 
-  // Views. `place`: where to go after the build, as far as that exists then.
-  void BuildView(View view, const tree::Place& place);
-  void BuildByProcess(const tree::Place& place);
-  void BuildByUser(const tree::Place& place);
+  // Views. `standing`: where to be after the build, as far as that exists then.
+  void BuildView(View view, const Standing& standing);
+  void BuildForHost(View view, bool refresh);
   void BuildAll(StateFilter state);
-  // Error 445 for a view that this version does not build.
-  void RequireBuilt(View view) const;
-  void BuildTree(View view, const OptionsFilter& filter, const tree::Place& place);
+  void BuildTree(View view, const OptionsFilter& filter, const Standing& standing);
+  void NameTabs(View view);
+  // The period that the view shown was asked for.
+  util::Period ShownPeriod() const;
+  // Asks for what is at the root of a view, and appends it.
+  void AppendRoots();
+  void AppendConnections();
+  void AppendBackups();
+  void ListAllSystemsLogs(const Standing& standing);
+  // What "Refresh" does.
+  void BuildAgain();
   // Empties tree and list, and what tells their numbers.
   void ClearPanes();
   // What p_IdAppLog says when p_FromType is `type`, else -1, which does not filter.
   std::int32_t IdentifierFor(tlFromType type) const;
 
-  // Places. Where a build that did not come to its end wanted to go, else that of the selected node, else of the first.
+  // Places. Where a build that did not come to its end wanted to be, else where the user is: at the selected node, else
+  // at the first.
+  Standing StandingNow() const;
+  // Before a build that the host asks for: where the user is for a refresh, else at the node of p_Key.
+  Standing StandingFor(bool refresh) const;
   tree::Place SelectedPlace() const;
   std::string SelectedKey() const;
-  void SelectAfterBuild(const tree::Place& place);
+  void SelectAfterBuild(const Standing& standing);
+  // Opens what was open, loading it where it is there.
+  void OpenAgain(widgets::NodeId parent, const std::vector<OpenNode>& open);
+  // Scrolls the tree to a node, or to what is left of the way to it.
+  void ScrollToPlace(const tree::Place& place);
   // Goes down to the deepest node on the way to a place that is there or can be loaded. `reached`, kNone before, is
   // that node, by an error on the way too.
   void DescendTo(const tree::Place& place, widgets::NodeId& reached);
@@ -165,6 +274,8 @@ class ucProcessLog {
   void OpenWayTo(widgets::NodeId node);
   // The node under `node` that stands for a row of its list; kNone when there is none.
   widgets::NodeId NodeOfRow(widgets::NodeId node, std::size_t row);
+  // The node of that key anywhere below `node`, which it extends.
+  widgets::NodeId NodeBelow(widgets::NodeId node, std::string_view key);
 
   // Expanders: load the children of a node.
   void LoadNode(widgets::NodeId node);
@@ -175,6 +286,12 @@ class ucProcessLog {
   void tvMotherList_ExpandUser(widgets::NodeId node);
   void tvMotherList_ExpandTask(widgets::NodeId node);
   void tvMotherList_ExpandProcess(widgets::NodeId node);
+  void tvMotherList_ExpandComm(widgets::NodeId node);
+  void AppendConnectionsUnder(widgets::NodeId node);
+  void tvMotherList_ExpandImports(widgets::NodeId node);
+  // Levels 1 to 3: the years of a root, the months of a year, the days of a month; 4: names and backups of a day.
+  void tvMotherList_ExpandBackup(ExpandRoutine level, widgets::NodeId node);
+  void tvMotherList_ExpandBackupLevel5(widgets::NodeId node);
 
   // Lists: fill lvMotherList for a node.
   void HandleNodeClick(widgets::NodeId node);
@@ -189,10 +306,28 @@ class ucProcessLog {
   void lvMotherList_NodeUserRun(widgets::NodeId node);
   void lvMotherList_NodeTask(widgets::NodeId node);
   void lvMotherList_NodeStep(widgets::NodeId node);
+  void lvMotherList_NodeMonthCommunications(widgets::NodeId node);
+  void lvMotherList_NodeCommunications(widgets::NodeId node);
+  void lvMotherList_NodeUserNameInAlarms(widgets::NodeId node);
+  void lvMotherList_NodeDayDateInAlarms(widgets::NodeId node);
+  void lvMotherList_NodeProcessNameInImports(widgets::NodeId node);
+  void lvMotherList_NodeBackupFiles(widgets::NodeId node);
+  void ListAllSubNodes(widgets::NodeId node, std::string_view caption);
+  void ListConnections(widgets::NodeId node);
+  void ListAlarms(widgets::NodeId node);
+  // Which alarms the tree was built for, and the check box leaves.
+  list::AlarmChoice AlarmsWanted(std::int32_t owner) const;
+  tree::BackupsShown BackupsWanted() const;
   void ListRunsOfProcess(widgets::NodeId node);
   void ListRunsOnStation(widgets::NodeId node);
   void ListTasks(widgets::NodeId node);
   void MajStatusBarInfrmMain();
+  // Fills the list for the selected node again, if any is.
+  void ClickSelectedAgain();
+  void MoveGroupAs(std::string_view label, bool up);
+  void FocusMoved(std::string_view label, bool& flag, bool has);
+  // The period was changed: shows where it ends.
+  void PeriodChanged(std::string_view label);
   std::string ConnectionsContextKey();
 
   // Questions to the record sources: each asks, takes the answer and releases it.
@@ -204,11 +339,24 @@ class ucProcessLog {
   ProcessLogAnswer AskStations(std::int32_t run, std::int32_t state);
   datasource::Answer<datasource::TaskRunRecords> AskTasks(const tree::PartOfRun& part);
   datasource::Answer<datasource::StepLogRecords> AskSteps(const tree::TaskOfRun& task);
-  datasource::Answer<datasource::CommandLogRecords> AskCommands(std::int32_t stepLog);
+  using CommandLogAnswer = datasource::Answer<datasource::CommandLogRecords>;
+  CommandLogAnswer AskCommands(std::int32_t stepLog);
+  CommandLogAnswer AskDaysOfConnections(StateFilter state);
+  CommandLogAnswer AskConnections(const util::Period& period, bool failedOnly);
+  CommandLogAnswer AskCommandsOfConnection(std::int32_t communication);
+  datasource::Answer<datasource::AlarmsLogRecords> AskAlarms();
+  datasource::Answer<datasource::AlarmsLogRecords> AskAlarmsOfDay(const tree::AlarmsOfNode& wanted);
+  datasource::Answer<datasource::SavesRecords> AskSaves(const tree::BackupsOfNode& wanted);
+  datasource::Answer<datasource::SavesRecords> AskSaveFiles(std::int32_t save);
+  datasource::Answer<datasource::UsersImportRecords> AskImports(std::int32_t importId);
+  datasource::Answer<datasource::UsersImportRecords> AskImportRuns(const tree::ImportPart& part);
+  datasource::Answer<datasource::TaskSchedulerLogRecords> AskSystemLogs();
 
   datasource::ProcessLog& ProcessLogSource();
   datasource::CommandLog& CommandLogSource();
   datasource::Quorvel& TaskRunSource();
+  datasource::AlarmsLog& AlarmsSource();
+  datasource::UsersImport& ImportSource();
 
   Platform& platform_;
   datasource::RecordSourceFactory& factory_;
@@ -223,6 +371,8 @@ class ucProcessLog {
     std::int32_t processId = -1;
     std::int32_t userId = -1;
     std::int32_t companyId = -1;
+    std::int32_t alarmId = -1;
+    std::int32_t importId = 0;
   };
 
   bool f_blnClickNode = false;  // something is being worked on
@@ -230,10 +380,19 @@ class ucProcessLog {
   std::int32_t f_lngProcessId = -1;
   std::int32_t f_lngUserId = 0;
   std::int32_t f_lngIdAppLog = 0;
+  std::int32_t f_lngImportId = 0;
+  enumLogsType f_lngLogsType = enumLogsType::enumProcessus;
   tlFromType f_tlFromType = tlFromType::tlAllOnStation;
   std::string f_strKey;
   std::string f_strServerName;
-  tree::Place placeToReturnTo_;  // nowhere once a build came to its end
+  std::string f_strConsoleLoginUserName;
+  std::int32_t f_lngConsoleLoginUserRight = 0;
+  bool listHasFocus_ = false;
+  bool treeHasFocus_ = false;
+  bool tabsReduced_ = false;            // by p_TabStripVisible
+  bool tabChosen_ = false;              // by the user
+  std::optional<Standing> toReturnTo_;  // nothing once a build came to its end
+  std::vector<HostEvents*> subscribers_;
   Shown shown_;
   bool serverMode_ = true;
   bool labelsRead_ = false;
@@ -246,8 +405,10 @@ class ucProcessLog {
   // Created at first use, kept until termination.
   std::unique_ptr<datasource::CommandLog> commandLog_;
   std::unique_ptr<datasource::ProcessLog> processLog_;
+  std::unique_ptr<datasource::AlarmsLog> alarmsLog_;
   std::unique_ptr<datasource::Labels> labels_;
   std::unique_ptr<datasource::Quorvel> taskRuns_;
+  std::unique_ptr<datasource::UsersImport> usersImport_;
 };
 
 }  // namespace quorvel

@@ -348,12 +348,13 @@ TEST_F(ControlTest, BuildsWhatTheTabTableNames) {
   controls().txtDuring.SetText("");
   control.sstProcessLog_Click();
   EXPECT_EQ(Tree(), "") << "cleared, and nothing is built";
-  EXPECT_EQ(controls().fraList.text() + ", " + platform.status, "Processes (0), 0 element");
+  EXPECT_EQ(controls().fraList.text() + ", " + platform.status, "Alarms (0), 0 element");
   EXPECT_TRUE(platform.messages.empty());
+  controls().txtDuring.SetText("1");
   control.p_FromType(tlFromType::tlAllAlarms);
   control.sstProcessLog_Click();
   ASSERT_EQ(platform.messages.size(), 1U);
-  EXPECT_THAT(platform.messages[0], HasSubstr("is not part of this version"));
+  EXPECT_THAT(platform.messages[0], HasSubstr("clRecordHub.AlarmsLog"));
 }
 
 TEST_F(ControlTest, SelectsTheNodeOfTheHostAndKeepsThePlaceOverAFailedRefresh) {
@@ -381,6 +382,8 @@ class Mirror : public widgets::TreeObserver {
   void NodesChanged(std::span<const NodeId>) override { TreeReset(); }
   void NodeExpansionChanged(NodeId) override {}
   void TreeSelectionChanged() override {}
+  void TreeScrolled(NodeId) override {}
+  NodeId TopNode() const override { return NodeId::kNone; }
   void Repaint() { EXPECT_EQ(test::TreeText(tree_), told_); }
 
  private:
