@@ -5,7 +5,9 @@
 #include "control/Entry.h"
 #include "control/Layout.h"
 #include "list/Classification.h"
+#include "util/KeyPrefixes.h"
 #include "util/ListViewSort.h"
+#include "util/PublicFunctions.h"
 
 namespace quorvel {
 
@@ -27,7 +29,11 @@ void ucProcessLog::sstProcessLog_Click() {
     const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
     // The key needs the tree that is about to go.
     const std::string left = SelectedKey();
-    const tree::Place place = tree::EquivalentPlace(left, GetNextContextKeyInLogs(left, NameOf(view)));
+    const std::string next = GetNextContextKeyInLogs(left, NameOf(view));
+    // Other views do not say how deep one was; the process view left last does.
+    const std::string_view prefix = util::Identifiant(left, 1);
+    if (prefix == util::kProcessPrefix || prefix == util::kUserPrefix) processKeyLeft_ = left;
+    const tree::Place place = tree::EquivalentPlace(processKeyLeft_, next);
     shown_ = {};
     ModifyMotherListSize(false);
     ClearPanes();

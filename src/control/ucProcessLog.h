@@ -391,6 +391,7 @@ class ucProcessLog {
   bool treeHasFocus_ = false;
   bool tabsReduced_ = false;            // by p_TabStripVisible
   bool tabChosen_ = false;              // by the user
+  std::string processKeyLeft_;          // of the node of a process view that a tab click left last
   std::optional<Standing> toReturnTo_;  // nothing once a build came to its end
   std::vector<HostEvents*> subscribers_;
   Shown shown_;

@@ -51,6 +51,11 @@ class MonthBuilder {
 
   void Build(bool byDay) {
     for (std::size_t first = 0; first < tallies_.size();) {
+      // What has no date belongs to no month.
+      if (days_[first] == 0) {
+        ++first;
+        continue;
+      }
       const std::string field = FieldOfDate(days_[first], DateField::kMonth);
       Tally ofMonth;
       std::size_t last = first;

@@ -13,10 +13,10 @@ namespace quorvel::tree {
 
 using DayAnswer = datasource::Answer<datasource::CommandLogRecords>;
 
-// Appends months, with `byDay` their days too, for the answer of GetCommunicationsByMonth, in its order. What shows the
-// connections next, the day or else the month, gets a placeholder for them. `failedDays` is the answer to the same
-// question about failed connections alone; days and months with such stand out. Without it nothing is known to have
-// failed. `platform` formats the days. Error 9 when a column lacks rows.
+// Appends months, with `byDay` their days too, for the answer of GetCommunicationsByMonth, in its order; what has no date
+// belongs to none. What shows the connections next, the day or else the month, gets a placeholder for them. `failedDays`
+// is the answer to the same question about failed connections alone; days and months with such stand out. Without it
+// nothing is known to have failed. `platform` formats the days. Error 9 when a column lacks rows.
 void AppendMonthNodes(const DayAnswer& days, const DayAnswer& failedDays, bool byDay, const Platform& platform,
                       widgets::TreeView& tree);
 
