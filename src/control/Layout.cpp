@@ -1,7 +1,7 @@
 #include "control/Layout.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <vector>
 
 namespace quorvel {
 namespace {
@@ -52,7 +52,7 @@ struct Field {
 };
 
 // Fields that stay together on one row.
-using FieldGroup = std::initializer_list<Field>;
+using FieldGroup = std::vector<Field>;
 
 Twips WidthOf(const FieldGroup& group) {
   Twips width = -kFieldGap;
@@ -91,10 +91,14 @@ class FieldRows {
     x_ += kGroupGap;
   }
 
+  // Whether a group finds room in a row beside the corner.
+  bool Holds(const FieldGroup& group) const { return WidthOf(group) <= RoomBeside(); }
+
   Twips height() const { return std::max(y_ + kFieldHeight, corner_.height); }
 
  private:
-  Twips Room() const { return y_ < corner_.height ? width_ - corner_.width - kGroupGap : width_; }
+  Twips RoomBeside() const { return width_ - corner_.width - kGroupGap; }
+  Twips Room() const { return y_ < corner_.height ? RoomBeside() : width_; }
 
   Twips width_;
   Corner corner_;
@@ -123,14 +127,16 @@ Twips LayOutOptions(ProcessLogControls& c, Twips width) {
   FieldRows rows(width, corner);
   rows.Place({{&c.lblState, 570}, {&c.cboState, 2175}});
   rows.Place({{&c.lblDate, 570}, {&c.dtpDate, 1725}, {&c.dtpHour, 1275}});
-  const Field length[] = {
+  const FieldGroup length{
       {&c.lblDuring, 675}, {&c.txtDuring, 525}, {&c.updDuring, kStepWidth, 0}, {&c.cboDuringUnit, 1350}};
-  const Field end{&c.lblPeriodEnd, 2400};
-  if (wide) {
-    rows.Place({length[0], length[1], length[2], length[3], end});
+  const FieldGroup end{{&c.lblPeriodEnd, 2400}};
+  FieldGroup lengthAndEnd = length;
+  lengthAndEnd.push_back(end.front());
+  if (rows.Holds(lengthAndEnd)) {
+    rows.Place(lengthAndEnd);
   } else {
-    rows.Place({length[0], length[1], length[2], length[3]});
-    rows.Place({end});
+    rows.Place(length);
+    rows.Place(end);
   }
   rows.Place({{&c.chkCommunicationsFilter, 2700}});
   rows.Place({{&c.chkGroupByDay, 1800}});
