@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
+#include <algorithm>
 
 #include "qt/Convert.h"
 
@@ -60,6 +61,11 @@ void DrawContent(const widgets::ComboBox& combo, QComboBox& widget) {
 void DrawContent(const widgets::ListBox& list, QListWidget& widget) {
   widget.clear();
   widget.addItems(TextsOf(list));
+  // The rows share the height, unless that would cut them.
+  const int room = widget.height() - 2 * widget.frameWidth();
+  for (int row = 0; row < widget.count(); ++row) {
+    widget.item(row)->setSizeHint({0, std::max(room / widget.count(), widget.fontMetrics().height())});
+  }
   widget.setCurrentRow(RowOf(list));
 }
 

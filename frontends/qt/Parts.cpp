@@ -2,30 +2,58 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionSpinBox>
 #include <QToolButton>
 #include <algorithm>
 #include <utility>
 
 #include "qt/Guard.h"
+#include "qt/ItemDelegate.h"
 
 namespace quorvel::qt {
 namespace {
 
-QToolButton* MakeStepButton(QWidget* parent, Qt::ArrowType arrow, const QString& name) {
-  auto* const button = new QToolButton(parent);
-  button->setArrowType(arrow);
-  button->setAutoRepeat(true);
-  button->setFocusPolicy(Qt::NoFocus);
-  button->setAccessibleName(name);
-  return button;
-}
+// Looks like the button of a spin box, which styles draw only as a whole: so each button draws the one whose buttons
+// lie where the up-down is, and shows its own half.
+class StepButton final : public QToolButton {
+ public:
+  StepButton(Qt::ArrowType arrow, const QString& name, QWidget* upDown) : QToolButton(upDown) {
+    setArrowType(arrow);
+    setAutoRepeat(true);
+    setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(name);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    Guarded([&] {
+      QStyleOptionSpinBox box;
+      box.initFrom(this);
+      box.rect = parentWidget()->rect().translated(-pos());
+      box.subControls = QStyle::SC_SpinBoxFrame | QStyle::SC_SpinBoxUp | QStyle::SC_SpinBoxDown;
+      box.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
+      box.frame = true;
+      // The field that belongs to the buttons lies beside them, out of sight.
+      box.rect.setLeft(box.rect.left() - kHiddenField);
+      if (underMouse() || isDown()) {
+        box.activeSubControls = arrowType() == Qt::UpArrow ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown;
+      }
+      box.state.setFlag(QStyle::State_Sunken, isDown());
+      QPainter painter(this);
+      style()->drawComplexControl(QStyle::CC_SpinBox, &box, &painter, this);
+    });
+  }
+
+ private:
+  static constexpr int kHiddenField = 40;
+};
 
 }  // namespace
 
-UpDownButtons::UpDownButtons(std::function<void(int)> step, QWidget* parent)
+UpDownButtons::UpDownButtons(std::function<void(int)> step, const StepNames& names, QWidget* parent)
     : QWidget(parent),
-      up_(MakeStepButton(this, Qt::UpArrow, QStringLiteral("More"))),
-      down_(MakeStepButton(this, Qt::DownArrow, QStringLiteral("Less"))) {
+      up_(new StepButton(Qt::UpArrow, names.up, this)),
+      down_(new StepButton(Qt::DownArrow, names.down, this)) {
   connect(up_, &QToolButton::clicked, this, [step] { Guarded([&] { step(+1); }); });
   connect(down_, &QToolButton::clicked, this, [step = std::move(step)] { Guarded([&] { step(-1); }); });
 }
@@ -33,6 +61,13 @@ UpDownButtons::UpDownButtons(std::function<void(int)> step, QWidget* parent)
 void UpDownButtons::resizeEvent(QResizeEvent* /*event*/) {
   up_->setGeometry(0, 0, width(), height() / 2);
   down_->setGeometry(0, height() / 2, width(), height() - height() / 2);
+}
+
+void OrderList::initViewItemOption(QStyleOptionViewItem* option) const {
+  Guarded([&] {
+    QListWidget::initViewItemOption(option);
+    ItemDelegate::QuietenUnlessFocused(*option, *this);
+  });
 }
 
 void SectionFrame::SetCaption(const QString& caption, int height) {

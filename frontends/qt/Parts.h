@@ -1,6 +1,8 @@
 // Small widgets of the viewer that Qt does not have as such.
 #pragma once
 
+#include <QListWidget>
+#include <QString>
 #include <QWidget>
 #include <functional>
 
@@ -8,11 +10,17 @@ class QToolButton;
 
 namespace quorvel::qt {
 
+// What a screen reader says of the buttons of an up-down.
+struct StepNames {
+  QString up;
+  QString down;
+};
+
 // The two buttons of an up-down; they repeat while they are held.
 class UpDownButtons final : public QWidget {
  public:
   // `step` is called with +1 and -1.
-  UpDownButtons(std::function<void(int)> step, QWidget* parent);
+  UpDownButtons(std::function<void(int)> step, const StepNames& names, QWidget* parent);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -20,6 +28,15 @@ class UpDownButtons final : public QWidget {
  private:
   QToolButton* up_;
   QToolButton* down_;
+};
+
+// A list of a few rows that shows its selection like the panes do: quietly without the focus.
+class OrderList final : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+
+ protected:
+  void initViewItemOption(QStyleOptionViewItem* option) const override;
 };
 
 // A frame whose caption stands along its top edge as the head of a section.

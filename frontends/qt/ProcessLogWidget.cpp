@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDateTimeEdit>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -15,6 +16,7 @@
 #include <QTabBar>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cstdlib>
 #include <type_traits>
 #include <utility>
 
@@ -71,8 +73,8 @@ class StepKeys final : public QObject {
 
  protected:
   bool eventFilter(QObject* field, QEvent* event) override {
-    const int by = event->type() == QEvent::Wheel ? WheelStepOf(*field, *event) : StepOf(*event);
-    if (by != 0) Guarded([&] { step_(by); });
+    const int by = event->type() == QEvent::Wheel ? WheelStepsOf(*field, *event) : StepOf(*event);
+    for (int done = 0; done < std::abs(by); ++done) Guarded([&] { step_(by > 0 ? 1 : -1); });
     return by != 0;
   }
 
@@ -85,12 +87,16 @@ class StepKeys final : public QObject {
   }
 
   // The wheel means a list's rows, and no field that does not have the focus.
-  int WheelStepOf(QObject& field, const QEvent& event) const {
+  int WheelStepsOf(QObject& field, const QEvent& event) {
     if (modifiers_ != Qt::NoModifier || !static_cast<QWidget&>(field).hasFocus()) return 0;
-    const int angle = static_cast<const QWheelEvent&>(event).angleDelta().y();
-    return angle > 0 ? 1 : angle < 0 ? -1 : 0;
+    // Touch pads tell of parts of a notch.
+    turned_ += static_cast<const QWheelEvent&>(event).angleDelta().y();
+    const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep;
+    turned_ %= QWheelEvent::DefaultDeltasPerStep;
+    return steps;
   }
 
+  int turned_ = 0;
   Qt::KeyboardModifiers modifiers_;
   std::function<void(int)> step_;
 };
@@ -113,6 +119,36 @@ class FocusWatch final : public QObject {
  private:
   std::function<void(bool)> moved_;
 };
+
+// Tells when a field gets the focus by the keyboard.
+class KeyboardFocusWatch final : public QObject {
+ public:
+  KeyboardFocusWatch(QWidget& field, std::function<void()> got) : QObject(&field), got_(std::move(got)) {
+    field.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*field*/, QEvent* event) override {
+    if (event->type() != QEvent::FocusIn) return false;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+      Guarded(got_);
+    }
+    return false;
+  }
+
+ private:
+  std::function<void()> got_;
+};
+
+// The tab that is shown next, or before, in the circle of those that can be chosen.
+int NeighbourOf(const QTabBar& tabs, int by) {
+  int tab = tabs.currentIndex();
+  do {
+    tab = (tab + by + tabs.count()) % tabs.count();
+  } while (tab != tabs.currentIndex() && !(tabs.isTabVisible(tab) && tabs.isTabEnabled(tab)));
+  return tab;
+}
 
 // A slot that calls `body` with what the signal carries.
 template <class Sender, class Signal, class Body>
@@ -143,6 +179,7 @@ ProcessLogWidget::ProcessLogWidget(datasource::RecordSourceFactory& factory, Pla
   MakeSplitter();
   MakeScrollBars();
   MakeRefresh();
+  MakeTabKeys();
   OrderTabKey();
   for (const SpokenName& each : kSpokenNames) {
     findChild<QWidget*>(QLatin1String(each.widget))->setAccessibleName(QLatin1String(each.name));
@@ -163,6 +200,27 @@ void ProcessLogWidget::resizeEvent(QResizeEvent* event) {
   Guarded([&] { control_.UserControl_Resize(ToTwips(event->size().width()), ToTwips(event->size().height())); });
 }
 
+// What nobody below had a use for moves the viewer, where it is smaller than its content.
+void ProcessLogWidget::wheelEvent(QWheelEvent* event) {
+  Guarded([&] {
+    const QPoint angle = event->angleDelta();
+    QScrollBar* const bar = std::abs(angle.x()) > std::abs(angle.y()) ? sideways_ : upAndDown_;
+    event->ignore();
+    if (bar->isVisible()) QCoreApplication::sendEvent(bar, event);
+  });
+}
+
+void ProcessLogWidget::BringIntoSight(const QWidget& field) {
+  const auto scroll = [](QScrollBar& bar, int first, int last, int room) {
+    if (!bar.isVisible()) return;
+    const int by = first < 0 ? first : std::max(last - room, 0);
+    bar.setValue(bar.value() + ToTwips(by));
+  };
+  const QRect place(field.mapTo(this, QPoint()), field.size());
+  scroll(*sideways_, place.left(), place.right(), upAndDown_->isVisible() ? upAndDown_->x() : width());
+  scroll(*upAndDown_, place.top(), place.bottom(), sideways_->isVisible() ? sideways_->y() : height());
+}
+
 void ProcessLogWidget::Bind(widgets::Control& model, QWidget& widget, std::function<void()> content) {
   bindings_.push_back(std::make_unique<Binding>(model, widget, std::move(content)));
 }
@@ -179,8 +237,9 @@ void ProcessLogWidget::MakeTabs() {
   tabs->setExpanding(false);
   tabs->setUsesScrollButtons(true);
   tabs->setElideMode(Qt::ElideNone);
-  On(tabs, &QTabBar::currentChanged, this, [this](int tab) {
+  On(tabs, &QTabBar::currentChanged, this, [this, tabs](int tab) {
     if (tab < 0) return;
+    if (control_.AtWork()) return tabs->setCurrentIndex(static_cast<int>(c_.sstProcessLog.current()));
     c_.sstProcessLog.SetCurrent(static_cast<std::size_t>(tab));
     control_.sstProcessLog_Click();
   });
@@ -212,7 +271,7 @@ void ProcessLogWidget::MakePeriodOptions() {
     control_.txtDuring_Change();
   });
   const auto step = [this](int by) { by > 0 ? control_.updDuring_UpClick() : control_.updDuring_DownClick(); };
-  Bind(c_.updDuring, *new UpDownButtons(step, options_));
+  Bind(c_.updDuring, *new UpDownButtons(step, {QStringLiteral("Longer"), QStringLiteral("Shorter")}, options_));
   new StepKeys(*length, Qt::NoModifier, step);
   MakeCombo(c_.cboDuringUnit, &ucProcessLog::cboDuringUnit_Click);
   Make<QLabel>(c_.lblPeriodEnd, options_);
@@ -220,14 +279,13 @@ void ProcessLogWidget::MakePeriodOptions() {
 
 void ProcessLogWidget::MakeGroupOrder() {
   auto* const label = Make<QLabel>(c_.lblGroupBy, options_);
-  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  auto* const list = Make<QListWidget>(c_.lstGroupBy, options_);
+  auto* const list = Make<OrderList>(c_.lstGroupBy, options_);
   label->setBuddy(list);
   On(list, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) c_.lstGroupBy.Select(static_cast<std::size_t>(row));
   });
   const auto step = [this](int by) { by > 0 ? control_.updGroupBy_UpClick() : control_.updGroupBy_DownClick(); };
-  Bind(c_.updGroupBy, *new UpDownButtons(step, options_));
+  Bind(c_.updGroupBy, *new UpDownButtons(step, {QStringLiteral("Up"), QStringLiteral("Down")}, options_));
   // The plain keys go from row to row.
   new StepKeys(*list, Qt::AltModifier, step);
 }
@@ -257,6 +315,7 @@ QDateTimeEdit* ProcessLogWidget::MakePicker(widgets::DateTimePicker& model, cons
   picker->setTimeSpec(Qt::UTC);
   picker->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
   picker->setCalendarPopup(picker->displayedSections().testFlag(QDateTimeEdit::DaySection));
+  picker->setWrapping(!picker->calendarPopup());  // a day's hours begin anew, years do not
   new WheelNeedsFocus(*picker);
   Bind(model, *picker, [&model, picker] { DrawContent(model, *picker); });
   if (picker->calendarPopup()) {
@@ -315,9 +374,13 @@ void ProcessLogWidget::MakeScrollBars() {
       model.SetValue(value);
       (control_.*change)();
     });
+    return bar;
   };
-  make(c_.HScroll, Qt::Horizontal, &ucProcessLog::HScroll_Change);
-  make(c_.VScroll, Qt::Vertical, &ucProcessLog::VScroll_Change);
+  sideways_ = make(c_.HScroll, Qt::Horizontal, &ucProcessLog::HScroll_Change);
+  upAndDown_ = make(c_.VScroll, Qt::Vertical, &ucProcessLog::VScroll_Change);
+  for (QWidget* const field : options_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    new KeyboardFocusWatch(*field, [this, field] { BringIntoSight(*field); });
+  }
   auto* const corner = new QWidget(this);
   corner->setAutoFillBackground(true);
   Bind(c_.fraCorner, *corner);
@@ -331,6 +394,21 @@ void ProcessLogWidget::MakeRefresh() {
   On(refresh_, &QAction::triggered, this, [this](bool) {
     if (c_.cmdRefresh.enabled()) control_.cmdRefresh_Click();
   });
+}
+
+void ProcessLogWidget::MakeTabKeys() {
+  const auto make = [this](const QList<QKeySequence>& keys, int by) {
+    auto* const action = new QAction(this);
+    action->setShortcuts(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
+    On(action, &QAction::triggered, this, [this, by](bool) {
+      auto& tabs = *findChild<QTabBar*>(ToQt(c_.sstProcessLog.name()));
+      tabs.setCurrentIndex(NeighbourOf(tabs, by));
+    });
+  };
+  make({Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}, +1);
+  make({Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Qt::CTRL | Qt::Key_PageUp}, -1);
 }
 
 void ProcessLogWidget::OrderTabKey() {

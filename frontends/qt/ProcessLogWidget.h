@@ -13,6 +13,7 @@ class QAction;
 class QComboBox;
 class QDateTimeEdit;
 class QLineEdit;
+class QScrollBar;
 
 namespace quorvel::qt {
 
@@ -43,6 +44,7 @@ class ProcessLogWidget final : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   void MakeOptions();
@@ -53,7 +55,10 @@ class ProcessLogWidget final : public QWidget {
   void MakeSplitter();
   void MakeScrollBars();
   void MakeRefresh();
+  void MakeTabKeys();
   void OrderTabKey();
+  // Scrolls the viewer, where it is smaller than its content, until this field is seen.
+  void BringIntoSight(const QWidget& field);
 
   // A widget inside `parent` that is kept like its control.
   template <class Widget, class Model>
@@ -71,6 +76,8 @@ class ProcessLogWidget final : public QWidget {
   SectionFrame* section_;
   TreePane* tree_ = nullptr;
   ListPane* list_ = nullptr;
+  QScrollBar* sideways_ = nullptr;
+  QScrollBar* upAndDown_ = nullptr;
   QAction* refresh_;
   std::vector<std::unique_ptr<Binding>> bindings_;
 };

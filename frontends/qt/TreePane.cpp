@@ -108,7 +108,7 @@ NodeId TreePane::TopNode() const {
 void TreePane::FollowExpansion(const QModelIndex& index) {
   const QScopedValueRollback following(following_, true);
   const NodeId node = model_.NodeOf(index);
-  setExpanded(index, tree_.IsExpanded(node));
+  ShowExpanded(index, tree_.IsExpanded(node));
   if (tree_.IsExpanded(node)) FollowOpenChildren(node);
 }
 
@@ -116,9 +116,18 @@ void TreePane::FollowOpenChildren(NodeId parent) {
   const QScopedValueRollback following(following_, true);
   for (const NodeId child : tree_.Children(parent)) {
     if (!tree_.IsExpanded(child)) continue;
-    expand(model_.IndexOf(child));
+    ShowExpanded(model_.IndexOf(child), true);
     FollowOpenChildren(child);
   }
+}
+
+// A node alone lays out its own rows, and moves all rows below them; of many the rest share one layout of all that is
+// shown.
+void TreePane::ShowExpanded(const QModelIndex& index, bool expanded) {
+  constexpr int kLaidOutAlone = 16;
+  if (isExpanded(index) == expanded) return;
+  if (++followed_ > kLaidOutAlone) scheduleDelayedItemsLayout();
+  setExpanded(index, expanded);
 }
 
 void TreePane::FollowSelection() {
@@ -221,6 +230,13 @@ void TreePane::keyPressEvent(QKeyEvent* event) {
       QTreeView::keyPressEvent(event);
     }
     if (currentIndex() != before) Click(currentIndex());
+  });
+}
+
+void TreePane::paintEvent(QPaintEvent* event) {
+  Guarded([&] {
+    followed_ = 0;
+    QTreeView::paintEvent(event);
   });
 }
 

@@ -44,6 +44,7 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void updateGeometries() override;
 
  private:
@@ -55,6 +56,7 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   // What the tree says.
   void FollowExpansion(const QModelIndex& index);
   void FollowOpenChildren(widgets::NodeId parent);
+  void ShowExpanded(const QModelIndex& index, bool expanded);
   void FollowSelection();
   bool IsShown(widgets::NodeId node) const;
 
@@ -62,6 +64,7 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   TreeGestures gestures_;
   TreeModel model_;
   bool following_ = false;  // what happens now comes from the tree, not from the user
+  int followed_ = 0;        // nodes opened and closed since the last painting
   bool inGesture_ = false;  // an event handler says at its end which node was clicked
 };
 

@@ -14,6 +14,7 @@
 #include <QStyleOption>
 #include <QTabBar>
 #include <QToolButton>
+#include <algorithm>
 #include <chrono>
 
 #include "qt/Convert.h"
@@ -321,7 +322,9 @@ void QtViewer::DoubleClickRow(std::size_t row) {
 void QtViewer::ClickHeader(std::size_t column) {
   QHeaderView& header = *widget_->list().horizontalHeader();
   const int section = static_cast<int>(column);
-  widget_->list().scrollTo(widget_->list().model()->index(0, section));
+  // Sideways alone, to the column.
+  const int top = std::max(widget_->list().rowAt(0), 0);
+  widget_->list().scrollTo(widget_->list().model()->index(top, section));
   Settle();
   // Near its beginning: the end of a wide column may lie outside the window.
   ClickMouse(*header.viewport(), {header.sectionViewportPosition(section) + 2 * kIntoText, header.height() / 2});

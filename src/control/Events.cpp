@@ -26,19 +26,23 @@ void ucProcessLog::UserControl_Resize(Twips width, Twips height) {
 void ucProcessLog::sstProcessLog_Click() {
   Handle("Quorvel: ucProcessLog.sstProcessLog_Click", [&] {
     tabChosen_ = true;
+    if (tabRenamed_ && tabRenamed_->tab != controls_.sstProcessLog.current()) RestoreTabName();
     const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
     // The key needs the tree that is about to go.
-    const std::string left = SelectedKey();
+    // A view without nodes, and one in which nobody chose one, say nothing of where the user was.
+    const std::string selected = SelectedKey();
+    const bool unsaid = selected.empty() || (!choseNode_ && !processKeyLeft_.empty());
+    const std::string left = unsaid ? processKeyLeft_ : selected;
     const std::string next = GetNextContextKeyInLogs(left, NameOf(view));
     // Other views do not say how deep one was; the process view left last does.
     const std::string_view prefix = util::Identifiant(left, 1);
     if (prefix == util::kProcessPrefix || prefix == util::kUserPrefix) processKeyLeft_ = left;
     const tree::Place place = tree::EquivalentPlace(processKeyLeft_, next);
     shown_ = {};
+    toReturnTo_ = Standing{.node = place};
     ModifyMotherListSize(false);
     ClearPanes();
-    InitStateListByTab();
-    ControlsVisible(static_cast<std::int32_t>(StateFilterOf(controls_.cboState.selectedText()).value()));
+    ShowOptionsOfTab();
     BuildView(view, {.node = place});
   });
 }
@@ -56,7 +60,7 @@ void ucProcessLog::tvMotherList_Collapse(NodeId node) {
 }
 
 void ucProcessLog::tvMotherList_NodeClick(NodeId node) {
-  Handle("Quorvel: ucProcessLog.tvMotherList_NodeClick", [&] { HandleNodeClick(node); });
+  Handle("Quorvel: ucProcessLog.tvMotherList_NodeClick", [&] { GoTo(node); });
 }
 
 // Rows are not sorted by columns of these captions.
@@ -81,7 +85,7 @@ void ucProcessLog::lvMotherList_DblClick() {
     LoadNode(node);
     OpenWayTo(node);
     tree.SetExpanded(node, true);
-    HandleNodeClick(node);
+    GoTo(node);
   });
 }
 

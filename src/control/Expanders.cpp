@@ -1,7 +1,7 @@
 // The expanders: what loads the children of a node, once.
 #include <utility>
 
-#include "control/ucProcessLog.h"
+#include "control/Entry.h"
 #include "tree/ConnectionTree.h"
 #include "tree/ProcessTree.h"
 #include "tree/TaskTree.h"
@@ -48,7 +48,7 @@ void ucProcessLog::LoadNode(NodeId node) {
     case ExpandRoutine::kNodeMonthCommunications:
       return tvMotherList_ExpandComm(node);
     case ExpandRoutine::kExpandCommunications:
-      return tvMotherList_ExpandCommunications(node);
+      return ExpandDay(node);
     case ExpandRoutine::kExpandImports:
       return tvMotherList_ExpandImports(node);
     case ExpandRoutine::kExpandBackupLevel5:
@@ -99,21 +99,33 @@ void ucProcessLog::tvMotherList_ExpandProcess(NodeId node) {
 
 // A month without days.
 void ucProcessLog::tvMotherList_ExpandComm(NodeId node) {
-  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandComm", [&] { AppendConnectionsUnder(node); });
+  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandComm",
+              [&] { AppendConnectionsUnder(node, AskAllUnder(node)); });
 }
 
 void ucProcessLog::tvMotherList_ExpandCommunications(NodeId node) {
+  constexpr std::string_view kLabel = "Quorvel: ucProcessLog.tvMotherList_ExpandCommunications";
+  Build(kLabel, [&] {
+    const Hourglass hourglass(platform_);
+    ExpandDay(node);
+  });
+}
+
+void ucProcessLog::ExpandDay(NodeId node) {
   Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandCommunications", [&] {
-    if (controls_.tvMotherList.HasPlaceholder(node)) AppendConnectionsUnder(node);
+    if (controls_.tvMotherList.HasPlaceholder(node)) AppendConnectionsUnder(node, AskAllUnder(node));
   });
 }
 
 // All of the period, whatever the list is narrowed to.
-void ucProcessLog::AppendConnectionsUnder(NodeId node) {
-  widgets::TreeView& tree = controls_.tvMotherList;
-  const auto connections = AskConnections(tree::PeriodOfConnections(tree.Key(node), ShownPeriod()), false);
-  ReplaceChildren(node,
-                  [&] { tree::AppendConnectionNodes(connections.records, connections.count, platform_, node, tree); });
+ucProcessLog::CommandLogAnswer ucProcessLog::AskAllUnder(NodeId node) {
+  return AskConnections(tree::PeriodOfConnections(controls_.tvMotherList.Key(node), ShownPeriod()), false);
+}
+
+void ucProcessLog::AppendConnectionsUnder(NodeId node, const CommandLogAnswer& connections) {
+  ReplaceChildren(node, [&] {
+    tree::AppendConnectionNodes(connections.records, connections.count, platform_, node, controls_.tvMotherList);
+  });
 }
 
 void ucProcessLog::tvMotherList_ExpandImports(NodeId node) {
@@ -140,11 +152,12 @@ void ucProcessLog::tvMotherList_ExpandBackup(ExpandRoutine level, NodeId node) {
 }
 
 void ucProcessLog::tvMotherList_ExpandBackupLevel5(NodeId node) {
-  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandBackupLevel5", [&] {
-    widgets::TreeView& tree = controls_.tvMotherList;
-    const auto files = AskSaveFiles(tree::SaveOfKey(tree.Key(node)));
-    ReplaceChildren(node, [&] { tree::AppendBackupFolders(files.records, files.count, node, tree); });
-  });
+  Propagating("Quorvel: ucProcessLog.tvMotherList_ExpandBackupLevel5",
+              [&] { AppendFoldersUnder(node, AskSaveFiles(tree::SaveOfKey(controls_.tvMotherList.Key(node)))); });
+}
+
+void ucProcessLog::AppendFoldersUnder(NodeId node, const datasource::Answer<datasource::SavesRecords>& files) {
+  ReplaceChildren(node, [&] { tree::AppendBackupFolders(files.records, files.count, node, controls_.tvMotherList); });
 }
 
 }  // namespace quorvel

@@ -35,12 +35,17 @@ constexpr Twips kFieldGap = 75;
 constexpr Twips kGroupGap = 330;
 constexpr Twips kRowGap = 105;
 constexpr Twips kRefreshWidth = 1500;
-// The filter of alarms stands this much further right than the rows have it.
-constexpr Twips kAlarmFilterInset = 360;
+// Of the labels that a row may begin with, so that the fields after them are in line.
+constexpr Twips kLabelWidth = 675;
+// Check boxes are in line with the fields above them.
+constexpr Twips kFieldColumn = kLabelWidth + kFieldGap;
+// The filter of alarms gets there by the move that start-up owes it.
+constexpr Twips kAlarmFilterMove = 360;
+constexpr Twips kAlarmFilterColumn = kFieldColumn - kAlarmFilterMove;
 constexpr Twips kGroupLabelWidth = 600;
 constexpr Twips kGroupListWidth = 1500;
 constexpr Twips kGroupListHeight = 1215;
-constexpr Twips kStepWidth = 300;
+constexpr Twips kStepWidth = 225;
 // From here on the group order stands beside the button, else below it.
 constexpr Twips kWideOptions = 9000;
 
@@ -71,15 +76,15 @@ class FieldRows {
  public:
   FieldRows(Twips width, Corner corner) : width_(width), corner_(corner) {}
 
-  // `inset`: how much further right than the rows have it.
-  void Place(const FieldGroup& group, Twips inset = 0) {
-    const Twips groupWidth = WidthOf(group) + inset;
-    if (groupWidth <= inset) return;
+  // `indent`: where the group stands when it begins a row.
+  void Place(const FieldGroup& group, Twips indent = 0) {
+    const Twips groupWidth = WidthOf(group);
+    if (groupWidth <= 0) return;
     if (x_ > 0 && x_ + groupWidth > Room()) {
       x_ = 0;
       y_ += kFieldHeight + kRowGap;
     }
-    x_ += inset;
+    if (x_ == 0) x_ = indent;
     bool first = true;
     for (const Field& field : group) {
       if (!field.control->visible()) continue;
@@ -125,10 +130,10 @@ Twips LayOutOptions(ProcessLogControls& c, Twips width) {
     PlaceGroupOrder(c, width - corner.width, corner.height - kGroupListHeight);
   }
   FieldRows rows(width, corner);
-  rows.Place({{&c.lblState, 570}, {&c.cboState, 2175}});
-  rows.Place({{&c.lblDate, 570}, {&c.dtpDate, 1725}, {&c.dtpHour, 1275}});
+  rows.Place({{&c.lblState, kLabelWidth}, {&c.cboState, 2175}});
+  rows.Place({{&c.lblDate, kLabelWidth}, {&c.dtpDate, 1725}, {&c.dtpHour, 1275}});
   const FieldGroup length{
-      {&c.lblDuring, 675}, {&c.txtDuring, 525}, {&c.updDuring, kStepWidth, 0}, {&c.cboDuringUnit, 1350}};
+      {&c.lblDuring, kLabelWidth}, {&c.txtDuring, 525}, {&c.updDuring, kStepWidth, 0}, {&c.cboDuringUnit, 1350}};
   const FieldGroup end{{&c.lblPeriodEnd, 2400}};
   FieldGroup lengthAndEnd = length;
   lengthAndEnd.push_back(end.front());
@@ -136,11 +141,10 @@ Twips LayOutOptions(ProcessLogControls& c, Twips width) {
     rows.Place(lengthAndEnd);
   } else {
     rows.Place(length);
-    rows.Place(end);
+    rows.Place(end, kFieldColumn);
   }
-  rows.Place({{&c.chkCommunicationsFilter, 2700}});
-  rows.Place({{&c.chkGroupByDay, 1800}});
-  rows.Place({{&c.chkAlarmFilter, 2250}}, kAlarmFilterInset);
+  rows.Place({{&c.chkCommunicationsFilter, 2700}, {&c.chkGroupByDay, 1800, kGroupGap}}, kFieldColumn);
+  rows.Place({{&c.chkAlarmFilter, 2250}}, kAlarmFilterColumn + kAlarmFilterMove);
   return rows.height();
 }
 
@@ -211,10 +215,14 @@ void LayOutPanes(ProcessLogControls& c, float& treeWidth) {
     tree.height = (tree.height - kListMargin) / 2;
     list = {tree.left, tree.bottom() + kListMargin, frame.width, tree.height};
   }
-  c.tvMotherList.SetBounds(beside ? tree : Rect{tree.left, tree.top, frame.width, tree.height});
+  // In the narrow form the grip stands at the frame's edge, from where it can be dragged back.
+  const bool dragsBack = !alone && !beside && frame.width > kLeastTreeWidth + kListGap;
+  if (!beside) tree.width = frame.width - (dragsBack ? kGripWidth : 0);
+  c.tvMotherList.SetBounds(tree);
   c.lvMotherList.SetBounds(list);
-  c.imgSplitter.SetBounds({tree.right(), tree.top, kGripWidth, tree.height});
-  c.imgSplitter.SetVisible(beside);
+  const Twips grip = alone ? c.imgSplitter.bounds().left : tree.right();
+  c.imgSplitter.SetBounds({grip, tree.top, kGripWidth, tree.height});
+  c.imgSplitter.SetVisible(beside || dragsBack);
 }
 
 void BeginSplitterDrag(ProcessLogControls& c) {

@@ -30,7 +30,6 @@ using widgets::NodeId;
 
 void ucProcessLog::HandleNodeClick(NodeId node) {
   controls_.tvMotherList.Select(node);
-  toReturnTo_.reset();
   controls_.lvMotherList.SetRows(nullptr);
   try {
     FillList(node);
@@ -39,6 +38,12 @@ void ucProcessLog::HandleNodeClick(NodeId node) {
     throw;
   }
   MajStatusBarInfrmMain();
+}
+
+void ucProcessLog::GoTo(NodeId node) {
+  toReturnTo_.reset();
+  choseNode_ = true;
+  HandleNodeClick(node);
 }
 
 void ucProcessLog::FillList(NodeId node) {

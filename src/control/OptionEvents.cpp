@@ -13,10 +13,8 @@ void ucProcessLog::cboState_Click() {
 }
 
 void ucProcessLog::cboDuringUnit_Click() {
-  Reporting(errors_, "Quorvel: ucProcessLog.cboDuringUnit_Click", [&] {
-    LimitPeriod(controls_);
-    ShowPeriodEnd(controls_, platform_);
-  });
+  Reporting(errors_, "Quorvel: ucProcessLog.cboDuringUnit_Click", [&] { LimitPeriod(controls_); });
+  PeriodChanged("Quorvel: ucProcessLog.cboDuringUnit_Click");
 }
 
 void ucProcessLog::dtpDate_Change() {
@@ -32,21 +30,20 @@ void ucProcessLog::txtDuring_Change() {
 }
 
 void ucProcessLog::PeriodChanged(std::string_view label) {
-  Reporting(errors_, label, [&] { ShowPeriodEnd(controls_, platform_); });
+  Reporting(errors_, label, [&] {
+    periodSet_ = true;
+    ShowPeriodEnd(controls_, platform_);
+  });
 }
 
 void ucProcessLog::updDuring_UpClick() {
-  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_UpClick", [&] {
-    StepPeriod(controls_, 1);
-    ShowPeriodEnd(controls_, platform_);
-  });
+  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_UpClick", [&] { StepPeriod(controls_, 1); });
+  PeriodChanged("Quorvel: ucProcessLog.updDuring_UpClick");
 }
 
 void ucProcessLog::updDuring_DownClick() {
-  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_DownClick", [&] {
-    StepPeriod(controls_, -1);
-    ShowPeriodEnd(controls_, platform_);
-  });
+  Reporting(errors_, "Quorvel: ucProcessLog.updDuring_DownClick", [&] { StepPeriod(controls_, -1); });
+  PeriodChanged("Quorvel: ucProcessLog.updDuring_DownClick");
 }
 
 void ucProcessLog::updGroupBy_UpClick() {
@@ -68,7 +65,7 @@ void ucProcessLog::chkAlarmFilter_Click() {
 
 void ucProcessLog::ClickSelectedAgain() {
   const widgets::NodeId node = controls_.tvMotherList.Selected();
-  if (node != widgets::NodeId::kNone) HandleNodeClick(node);
+  if (node != widgets::NodeId::kNone) GoTo(node);
 }
 
 void ucProcessLog::chkGroupByDay_Click() {

@@ -8,6 +8,7 @@
 #include <system_error>
 #include <vector>
 
+#include "control/Routing.h"
 #include "platform/Error.h"
 #include "util/ComboSelection.h"
 #include "util/PublicOstrana.h"
@@ -121,17 +122,23 @@ void FillOptionTexts(ProcessLogControls& c) {
   c.dtpHour.SetToolTip("Time of day at which the period begins and ends");
   c.lblDuring.SetText("D&uring");
   c.txtDuring.SetToolTip("Length of the period");
+  c.updDuring.SetToolTip("Longer or shorter (Up, Down in the field)");
   c.cboDuringUnit.SetToolTip("Unit of the length");
   c.lblPeriodEnd.SetToolTip("Where the period ends; what begins then is no longer part of it");
-  c.chkCommunicationsFilter.SetText("&Failed connections only");
+  // No access key of a caption is one of the menus that hosts have: File, Edit, View, Help.
+  c.chkCommunicationsFilter.SetText("Failed &connections only");
+  c.chkCommunicationsFilter.SetToolTip("List no other connections; the tree stays as it is");
   c.chkGroupByDay.SetText("&Group by day");
+  c.chkGroupByDay.SetToolTip("Show the connections of a month below their days");
   c.chkAlarmFilter.SetText("&Active alarms only");
+  c.chkAlarmFilter.SetToolTip("List no alarms that somebody acknowledged; the tree follows with the next Refresh");
   c.lblGroupBy.SetText("&Order");
   c.lstGroupBy.SetToolTip(
       "What stands above Origin arranges the first level of the tree, from the top down.\n"
       "Date: the newest execution first. User: what reached the most stations first.\n"
-      "Processes: stations with the most processes first. Origin: as the history has it, by name.");
-  c.updGroupBy.SetToolTip("Move the selected row up or down");
+      "Processes: stations with the most processes first. Origin: as the history has it, by name.\n"
+      "Alt+Up and Alt+Down move the selected row.");
+  c.updGroupBy.SetToolTip("Move the selected row up or down (Alt+Up, Alt+Down in the list)");
   c.cmdRefresh.SetText("&Refresh");
   c.cmdRefresh.SetToolTip("Read the history again (F5)");
   c.cboDuringUnit.SetItems({{"Months", 0}, {"Days", 0}, {"Hours", 0}});
@@ -143,9 +150,15 @@ void FillOptionTexts(ProcessLogControls& c) {
 
 OptionsFilter ReadOptions(const ProcessLogControls& c, StateFilter stateBefore) {
   OptionsFilter filter;
-  filter.start = AtTimeOf(c.dtpDate.value(), c.dtpHour.value());
-  filter.end = AddInterval(filter.start, SelectedUnit(c), PeriodLength(c));
   filter.state = StateFilterOf(c.cboState.selectedText()).value_or(stateBefore);
+  filter.start = AtTimeOf(c.dtpDate.value(), c.dtpHour.value());
+  try {
+    filter.end = AddInterval(filter.start, SelectedUnit(c), PeriodLength(c));
+  } catch (const Error&) {
+    // Nobody sees the period of the last execution, and nobody uses it.
+    if (filter.state != StateFilter::kLastExecution) throw;
+    filter.end = filter.start;
+  }
   for (const widgets::Item& item : c.lstGroupBy.items()) filter.groupBy += std::to_string(item.data);
   return filter;
 }
@@ -167,7 +180,9 @@ void MoveGroup(ProcessLogControls& c, bool up) {
 void ShowPeriodEnd(ProcessLogControls& c, const Platform& platform) {
   std::string text;
   try {
-    text = "to " + util::strFormatDateTime(platform, ReadOptions(c, StateFilter::kAll).end, util::kDateAndTime);
+    const DateValue start = AtTimeOf(c.dtpDate.value(), c.dtpHour.value());
+    const DateValue end = AddInterval(start, SelectedUnit(c), PeriodLength(c));
+    text = "to " + util::strFormatDateTime(platform, end, util::kDateAndTime);
   } catch (const Error&) {
     text = "to ?";  // what is wrong with the period is told when it is used
   }
@@ -182,14 +197,17 @@ void LimitPeriod(ProcessLogControls& c) {
 }
 
 void ShowOptions(ProcessLogControls& c, StateFilter state) {
-  // The last execution of each process needs no period.
-  const bool period = state != StateFilter::kLastExecution;
+  // An import is shown whole. The last execution of each process needs no period.
+  const std::string_view tab = c.sstProcessLog.currentCaption();
+  const bool filtered = tab != NameOf(View::kImports);
+  c.lblState.SetVisible(filtered);
+  c.cboState.SetVisible(filtered);
+  const bool period = filtered && state != StateFilter::kLastExecution;
   for (widgets::Control* control :
        std::initializer_list<widgets::Control*>{&c.lblDate, &c.dtpDate, &c.dtpHour, &c.lblDuring, &c.txtDuring,
                                                 &c.updDuring, &c.cboDuringUnit, &c.lblPeriodEnd}) {
     control->SetVisible(period);
   }
-  const std::string_view tab = c.sstProcessLog.currentCaption();
   const bool connections = tab == "Connections";
   c.chkCommunicationsFilter.SetVisible(connections);
   c.chkGroupByDay.SetVisible(connections);

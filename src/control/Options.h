@@ -33,7 +33,7 @@ void FillStateList(widgets::ComboBox& cboState, std::string_view tabCaption);
 void FillOptionTexts(ProcessLogControls& controls);
 
 // Reads the panel. `stateBefore` stays where the text of cboState stands for no state. Errors 13 and 6 for a period
-// that is no whole number or does not fit, 6 for an end beyond the calendar.
+// that is no whole number or does not fit, 6 for an end beyond the calendar, where the state has a period.
 OptionsFilter ReadOptions(const ProcessLogControls& controls, StateFilter stateBefore);
 
 // Makes the period `by` units longer, within its limits. It starts from what the text box shows; from the least length

@@ -32,10 +32,7 @@ void ucProcessLog::lvMotherList_NodeCommunications(NodeId node) {
     const Hourglass hourglass(platform_);
     constexpr std::size_t kFieldsOfDay = 3;
     const std::string key(controls_.tvMotherList.Key(node));
-    if (util::SplitKey(key).size() == kFieldsOfDay) {
-      tvMotherList_ExpandCommunications(node);
-      return ListConnections(node);
-    }
+    if (util::SplitKey(key).size() == kFieldsOfDay) return ListConnections(node);
     PrepareList(list::ConnectionCommandListHeaders());
     const auto commands = AskCommandsOfConnection(tree::CommunicationOfKey(key));
     controls_.lvMotherList.SetRows(list::ConnectionCommandListRows(commands.records, commands.count, key, platform_));
@@ -45,8 +42,10 @@ void ucProcessLog::lvMotherList_NodeCommunications(NodeId node) {
 void ucProcessLog::ListConnections(NodeId node) {
   const std::string key(controls_.tvMotherList.Key(node));
   PrepareList(list::ConnectionListHeaders());
-  const auto connections =
-      AskConnections(tree::PeriodOfConnections(key, ShownPeriod()), controls_.chkCommunicationsFilter.checked());
+  const bool failedOnly = controls_.chkCommunicationsFilter.checked();
+  const auto connections = AskConnections(tree::PeriodOfConnections(key, ShownPeriod()), failedOnly);
+  // What was asked for the list is what the node has, unless the list is narrowed.
+  if (!failedOnly && controls_.tvMotherList.HasPlaceholder(node)) AppendConnectionsUnder(node, connections);
   controls_.lvMotherList.SetRows(
       list::ConnectionListRows(connections.records, connections.count, key, platform_, platform_.Now()));
 }
@@ -68,8 +67,8 @@ void ucProcessLog::ListAlarms(NodeId node) {
   PrepareList(list::AlarmListHeaders(layout));
   const bool one = shown_.alarmId != list::kAllOwners;
   const auto alarms = one ? AskAlarms() : AskAlarmsOfDay(wanted);
-  controls_.lvMotherList.SetRows(
-      list::AlarmListRows(alarms.records, alarms.count, key, platform_, layout, AlarmsWanted(wanted.owner)));
+  controls_.lvMotherList.SetRows(list::AlarmListRows(alarms.records, alarms.count, key, platform_, layout,
+                                                     AlarmsWanted(wanted.owner, controls_.chkAlarmFilter.checked())));
 }
 
 void ucProcessLog::lvMotherList_NodeProcessNameInImports(NodeId node) {
@@ -82,15 +81,15 @@ void ucProcessLog::lvMotherList_NodeProcessNameInImports(NodeId node) {
   });
 }
 
-// The levels above come with their nodes; these, like them, are loaded by the first click too.
+// As with the levels above, the first click loads the node too.
 void ucProcessLog::lvMotherList_NodeBackupFiles(NodeId node) {
   Propagating("Quorvel: ucProcessLog.lvMotherList_NodeBackupFiles", [&] {
     const Hourglass hourglass(platform_);
-    LoadNode(node);
     const std::string key(controls_.tvMotherList.Key(node));
     PrepareList(list::BackupFileListHeaders());
     const auto folder = tree::FolderOfKey(key);
     const auto files = AskSaveFiles(tree::SaveOfKey(key));
+    if (controls_.tvMotherList.HasPlaceholder(node)) AppendFoldersUnder(node, files);
     controls_.lvMotherList.SetRows(list::BackupFileListRows(files.records, files.count, folder, key, platform_));
   });
 }

@@ -22,7 +22,8 @@ Standing ucProcessLog::StandingNow() const {
   if (toReturnTo_) return *toReturnTo_;
   const widgets::TreeView& tree = controls_.tvMotherList;
   Standing standing{.node = SelectedPlace(), .open = OpenNodesUnder(tree, NodeId::kNone)};
-  standing.top = tree::PlaceOf(tree, tree.Top());
+  standing.tops = PlacesInSight(tree);
+  standing.taken = true;
   if (tree.Selected() != NodeId::kNone) standing.listOf = tree.Key(tree.Selected());
   if (shown_.view == View::kSystem) standing.listOf = util::kSystemPrefix;
   standing.list = StandingIn(controls_.lvMotherList);
@@ -30,7 +31,8 @@ Standing ucProcessLog::StandingNow() const {
 }
 
 Standing ucProcessLog::StandingFor(bool refresh) const {
-  return refresh ? StandingNow() : Standing{.node = tree::PlaceOfKey(f_strKey)};
+  const bool stands = toReturnTo_ || controls_.tvMotherList.Count() > 0;
+  return refresh && stands ? StandingNow() : Standing{.node = tree::PlaceOfKey(f_strKey)};
 }
 
 std::string ucProcessLog::SelectedKey() const {
@@ -55,12 +57,16 @@ void ucProcessLog::SelectAfterBuild(const Standing& standing) {
     }
     throw;
   }
+  // Keys of alarms do not say under which owner; their tree is there whole.
+  if (node == NodeId::kNone && standing.node.size() == 1) node = tree.Find(standing.node.front().fields);
+  choseNode_ = node != NodeId::kNone;
   if (node == NodeId::kNone) node = tree.Child(NodeId::kNone, 0);
   OpenWayTo(node);
   HandleNodeClick(node);
-  if (tree.Key(node) == standing.listOf) Restore(standing.list, platform_, controls_.lvMotherList);
+  if (standing.taken && tree.Key(node) == standing.listOf) Restore(standing.list, platform_, controls_.lvMotherList);
   OpenAgain(NodeId::kNone, standing.open);
-  ScrollToPlace(standing.top);
+  if (standing.taken) ScrollBack(standing.tops);
+  toReturnTo_.reset();
 }
 
 void ucProcessLog::OpenAgain(NodeId parent, const std::vector<OpenNode>& open) {
@@ -72,15 +78,22 @@ void ucProcessLog::OpenAgain(NodeId parent, const std::vector<OpenNode>& open) {
   }
 }
 
-void ucProcessLog::ScrollToPlace(const tree::Place& place) {
+// To the first of these that is there; where none is, to what is left of the way to the first.
+void ucProcessLog::ScrollBack(const std::vector<tree::Place>& tops) {
   widgets::TreeView& tree = controls_.tvMotherList;
-  NodeId top = NodeId::kNone;
-  for (std::size_t i = 0; i < place.size(); ++i) {
-    const NodeId next = tree::ChildOnWay(tree, top, place, i);
-    if (next == NodeId::kNone) break;
-    top = next;
+  NodeId nearest = NodeId::kNone;
+  for (const tree::Place& place : tops) {
+    NodeId node = NodeId::kNone;
+    std::size_t next = 0;
+    for (; next < place.size(); ++next) {
+      const NodeId child = tree::ChildOnWay(tree, node, place, next);
+      if (child == NodeId::kNone) break;
+      node = child;
+    }
+    if (next == place.size()) return tree.ScrollTo(node);
+    if (nearest == NodeId::kNone) nearest = node;
   }
-  if (top != NodeId::kNone) tree.ScrollTo(top);
+  tree.ScrollTo(nearest);
 }
 
 void ucProcessLog::DescendTo(const tree::Place& place, NodeId& reached) {
@@ -124,6 +137,12 @@ NodeId ucProcessLog::NodeOfRow(NodeId node, std::size_t row) {
   const widgets::TreeView& tree = controls_.tvMotherList;
   LoadNode(node);
   const std::string nodeKey(tree.Key(node));
+  const ClickRoutine kind = RouteOf(nodeKey).click;
+  if (kind == ClickRoutine::kNodeBackupFiles) return NodeId::kNone;  // files are numbered, folders are not files
+  if (kind == ClickRoutine::kNodeProcessNameInImports) {
+    const std::string rowKey = controls_.lvMotherList.Key(row);
+    return tree::ChildAt(tree, node, {std::string(util::kKeySeparator).append(util::Identifiant(rowKey, 1))});
+  }
   const std::string above = std::string(util::kKeySeparator) + nodeKey;
   // A row carries the key of its node, or its own number before that of the node that the list stands for.
   tree::PlaceStep step{controls_.lvMotherList.Key(row)};

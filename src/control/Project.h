@@ -5,9 +5,9 @@ namespace quorvel {
 
 // Hosts set these on one viewer and count on it that the others show the same.
 struct ProjectFlags {
-  bool blnShowUserInfo = false;      // user and station columns, and the other layout of the detail
-  bool blnShowProcessAlarm = false;  // the process column of alarm lists
-  bool blnShowAlarms = false;        // alarm icons on runs
+  bool blnShowUserInfo = false;      // the layout of the detail, which this version does not have yet
+  bool blnShowProcessAlarm = false;  // the process columns of alarm lists
+  bool blnShowAlarms = false;        // alarm icons on runs: hosts set it, no view of this version reads it
 };
 
 // The flags of the present thread.

@@ -22,7 +22,7 @@ std::optional<widgets::ListItem> ucProcessLog::SelectedItem() const {
 }
 
 void ucProcessLog::p_Connect(std::int32_t value) {
-  if (value != f_lngConnect) labelsRead_ = false;
+  if (value != f_lngConnect) labelsRead_ = periodSet_ = false;
   f_lngConnect = value;
 }
 
@@ -37,6 +37,7 @@ void ucProcessLog::p_FromType(tlFromType value) {
 void ucProcessLog::p_TabStripVisible(bool /*value*/) {
   Propagating("Quorvel: ucProcessLog.p_TabStripVisible", [&] {
     widgets::TabStrip& tabs = controls_.sstProcessLog;
+    RestoreTabName();
     tabs.SetCaption(tabs.current(), NameOf(View::kProcesses));
     tabsReduced_ = true;
     OfferTabs();
@@ -47,10 +48,9 @@ void ucProcessLog::p_TabStripVisible(bool /*value*/) {
 void ucProcessLog::OfferTabs() {
   widgets::TabStrip& tabs = controls_.sstProcessLog;
   const std::size_t before = tabs.current();
+  RestoreTabName();
   ShowTabs(tabs, f_tlFromType, tabsReduced_, tabChosen_);
-  if (tabs.current() == before) return;
-  InitStateListByTab();
-  ControlsVisible(static_cast<std::int32_t>(StateFilterOf(controls_.cboState.selectedText()).value()));
+  if (tabs.current() != before) ShowOptionsOfTab();
 }
 
 std::int32_t ucProcessLog::p_ListCount() const {

@@ -141,9 +141,9 @@ datasource::Answer<datasource::SavesRecords> ucProcessLog::AskSaves(const tree::
 
 datasource::Answer<datasource::SavesRecords> ucProcessLog::AskSaveFiles(std::int32_t save) {
   const auto source = datasource::CreateRecordSource<datasource::Saves>(factory_, f_strServerName);
-  const std::int32_t failedOnly = shown_.filter.state == StateFilter::kError ? 1 : 0;
+  constexpr std::int32_t kAllFiles = 0;  // the state says which backups are shown, and of these all
   std::int32_t status = 0;
-  source->GetSaveFiles(f_lngConnect, save, failedOnly, "", status);
+  source->GetSaveFiles(f_lngConnect, save, kAllFiles, "", status);
   auto answer = datasource::TakeAnswer(*source, status);
   source->CloseSaveFiles(f_lngConnect);
   return answer;

@@ -14,10 +14,15 @@ using widgets::ListView;
 using widgets::NodeId;
 using widgets::RowRanges;
 
-// What a walk knows of a key: how many it has met so far, and which of those looked for have it.
+// How many rows, or nodes, of what is in sight are taken down: one will do when those before it are gone.
+constexpr std::size_t kInSight = 8;
+
+// What a walk knows of a key: how many it has met so far, which of those looked for have it, in their order, and which
+// of these comes next.
 struct KeyMet {
   std::size_t count = 0;
   std::vector<std::size_t> known;
+  std::size_t next = 0;
 };
 using KeysMet = std::unordered_map<std::string, KeyMet>;
 
@@ -59,10 +64,9 @@ std::vector<KnownRow> Remember(const ListView& list, const std::vector<std::size
 std::vector<std::optional<std::size_t>> FindRows(const ListView& list, const std::vector<KnownRow>& rows) {
   std::vector<std::optional<std::size_t>> places(rows.size());
   KeysMet keys = KeysOf(rows);
-  WalkRows(list, rows.empty() ? 0 : list.Count(), keys, [&](std::size_t row, const KeyMet& met) {
-    for (const std::size_t known : met.known) {
-      if (rows[known].ordinal == met.count) places[known] = row;
-    }
+  WalkRows(list, rows.empty() ? 0 : list.Count(), keys, [&](std::size_t row, KeyMet& met) {
+    if (met.next < met.known.size() && rows[met.known[met.next]].ordinal == met.count)
+      places[met.known[met.next++]] = row;
   });
   return places;
 }
@@ -98,8 +102,22 @@ void RestoreRows(const ListStanding& standing, ListView& list) {
   const auto placeOf = [&](std::optional<std::size_t> known) { return known ? places[*known] : std::nullopt; };
   const auto item = placeOf(standing.item);
   list.SetSelection(std::move(selection), item);
-  const auto top = placeOf(standing.top);
-  if (list.Count() > 0 && (top || standing.left > 0)) list.ScrollTo({top.value_or(0), standing.left});
+  if (list.Count() == 0) return;
+  std::size_t top = 0;
+  for (auto known = standing.tops.rbegin(); known != standing.tops.rend(); ++known) {
+    if (places[*known]) top = *places[*known];
+  }
+  list.ScrollTo({top, standing.left});
+}
+
+// The node below this one as the tree is seen; kNone after the last.
+NodeId NextInSight(const widgets::TreeView& tree, NodeId node) {
+  if (tree.IsExpanded(node) && tree.ChildCount(node) > 0) return tree.Child(node, 0);
+  for (; node != NodeId::kNone; node = tree.Parent(node)) {
+    const auto siblings = tree.Children(tree.Parent(node));
+    if (tree.RowOf(node) + 1 < siblings.size()) return siblings[tree.RowOf(node) + 1];
+  }
+  return NodeId::kNone;
 }
 
 }  // namespace
@@ -118,14 +136,23 @@ std::vector<FoundNode> FindNodes(const widgets::TreeView& tree, NodeId parent, c
   std::vector<FoundNode> found;
   KeysMet keys = KeysOf(open);
   for (const NodeId node : tree.Children(parent)) {
-    const auto met = keys.find(std::string(tree.Key(node)));
-    if (met == keys.end()) continue;
-    for (const std::size_t known : met->second.known) {
-      if (open[known].ordinal == met->second.count) found.push_back({&open[known], node});
+    const auto at = keys.find(std::string(tree.Key(node)));
+    if (at == keys.end()) continue;
+    KeyMet& met = at->second;
+    if (met.next < met.known.size() && open[met.known[met.next]].ordinal == met.count) {
+      found.push_back({&open[met.known[met.next++]], node});
     }
-    ++met->second.count;
+    ++met.count;
   }
   return found;
+}
+
+std::vector<tree::Place> PlacesInSight(const widgets::TreeView& tree) {
+  std::vector<tree::Place> places;
+  for (NodeId node = tree.Top(); node != NodeId::kNone && places.size() < kInSight; node = NextInSight(tree, node)) {
+    places.push_back(tree::PlaceOf(tree, node));
+  }
+  return places;
 }
 
 ListStanding StandingIn(const ListView& list) {
@@ -138,16 +165,17 @@ ListStanding StandingIn(const ListView& list) {
     }
   }
   const widgets::ListCorner corner = list.Corner();
-  const std::optional<std::size_t> top =
-      corner.row > 0 && corner.row < list.Count() ? std::optional(corner.row) : std::nullopt;
-  for (const auto& place : {list.SelectedItem(), top}) {
-    if (place) places.push_back(*place);
+  std::vector<std::size_t> tops;
+  if (corner.row > 0) {
+    for (std::size_t row = corner.row; row < list.Count() && tops.size() < kInSight; ++row) tops.push_back(row);
   }
+  places.insert(places.end(), tops.begin(), tops.end());
+  if (list.SelectedItem()) places.push_back(*list.SelectedItem());
   std::ranges::sort(places);
   places.erase(std::ranges::unique(places).begin(), places.end());
   standing.rows = Remember(list, places);
   standing.item = IndexIn(places, list.SelectedItem());
-  standing.top = IndexIn(places, top);
+  for (const std::size_t row : tops) standing.tops.push_back(*IndexIn(places, row));
   standing.left = corner.left;
   return standing;
 }

@@ -34,17 +34,19 @@ struct ListStanding {
   std::int32_t sortKey = 0;
   widgets::SortOrder sortOrder = widgets::SortOrder::kAscending;
   bool allSelected = false;
-  std::vector<KnownRow> rows = {};       // those selected, unless all are, and the two below
+  std::vector<KnownRow> rows = {};       // those selected, unless all are, and those below
   std::optional<std::size_t> item = {};  // of these, the one that commands act on
-  std::optional<std::size_t> top = {};   // and the first in sight, where the list is scrolled
+  std::vector<std::size_t> tops = {};    // and, where the list is scrolled, the first ones in sight
   widgets::Twips left = 0;               // how far it is scrolled sideways
 };
 
 struct Standing {
   tree::Place node = {};            // the selected one
   std::vector<OpenNode> open = {};  // those at the root
-  tree::Place top = {};             // the first in sight; nowhere where the tree is not scrolled
-  std::string listOf = {};          // key of the node that the list shows, "" = of none
+  // The rest only where it was taken down; else the way is all there is, and what is in sight is left alone.
+  bool taken = false;
+  std::vector<tree::Place> tops = {};  // where the tree is scrolled, the first nodes in sight
+  std::string listOf = {};             // key of the node that the list shows, "" = of none
   ListStanding list = {};
 };
 
@@ -58,6 +60,9 @@ struct FoundNode {
 };
 std::vector<FoundNode> FindNodes(const widgets::TreeView& tree, widgets::NodeId parent,
                                  const std::vector<OpenNode>& open);
+
+// The first nodes in sight, of which one will do when others are gone; none where the tree is not scrolled.
+std::vector<tree::Place> PlacesInSight(const widgets::TreeView& tree);
 
 ListStanding StandingIn(const widgets::ListView& list);
 

@@ -26,7 +26,10 @@ bool StandsForItsView(const std::vector<widgets::Tab>& tabs, std::size_t tab, tl
   const std::string_view own = OwnTab(fromType, view);
   for (std::size_t other = 0; other < tabs.size(); ++other) {
     if (other == tab || !IsOffered(other, reduced) || ViewOfTab(fromType, tabs[other].caption) != view) continue;
-    if (tabs[other].caption == own || (other < tab && tabs[tab].caption != own)) return false;
+    // Of several that carry the name, or none, the first.
+    const bool otherOwn = tabs[other].caption == own;
+    const bool thisOwn = tabs[tab].caption == own;
+    if (otherOwn != thisOwn ? otherOwn : other < tab) return false;
   }
   return true;
 }

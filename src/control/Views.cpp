@@ -1,6 +1,8 @@
 // The builders of the views: what is asked for, and what it becomes in the tree and the list.
+#include <algorithm>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "control/Entry.h"
 #include "list/SystemList.h"
@@ -73,33 +75,63 @@ void ucProcessLog::m_GetLogByImports(std::int32_t& /*view*/, std::int32_t& impor
 }
 
 void ucProcessLog::BuildForHost(View view, bool refresh) {
-  Build(BuilderOf(view), [&] { BuildView(view, StandingFor(refresh)); });
+  Build(BuilderOf(view), [&] {
+    Standing standing = StandingFor(refresh);
+    GoToTabOf(view);
+    BuildView(view, std::move(standing));
+  });
+}
+
+// A host finds what it built under the tab that is named after it, with the options of that tab. Where that tab is not
+// shown, alarms and imports give the current one their name until another tab is clicked.
+void ucProcessLog::GoToTabOf(View view) {
+  widgets::TabStrip& strip = controls_.sstProcessLog;
+  RestoreTabName();
+  const auto tab = std::ranges::find(strip.tabs(), NameOf(view), &widgets::Tab::caption);
+  if (tab != strip.tabs().end() && tab->visible) {
+    strip.SetCurrent(static_cast<std::size_t>(tab - strip.tabs().begin()));
+  } else if (view == View::kAlarms || view == View::kImports) {
+    tabRenamed_ = RenamedTab{strip.current(), std::string(strip.currentCaption())};
+    strip.SetCaption(strip.current(), NameOf(view));
+  } else {
+    return;
+  }
+  ShowOptionsOfTab();
+}
+
+void ucProcessLog::RestoreTabName() {
+  if (tabRenamed_) controls_.sstProcessLog.SetCaption(tabRenamed_->tab, tabRenamed_->caption);
+  tabRenamed_.reset();
+}
+
+void ucProcessLog::ShowOptionsOfTab() {
+  InitStateListByTab();
+  ControlsVisible(static_cast<std::int32_t>(StateFilterOf(controls_.cboState.selectedText()).value()));
 }
 
 void ucProcessLog::m_GetLogAll(StateFilter& state) {
-  Build("Quorvel: ucProcessLog.m_GetLogAll", [&] { BuildAll(state); });
+  Build("Quorvel: ucProcessLog.m_GetLogAll", [&] { BuildAll(state, StandingFor(true)); });
 }
 
-void ucProcessLog::BuildAll(StateFilter state) {
+void ucProcessLog::BuildAll(StateFilter state, Standing standing) {
   Propagating("Quorvel: ucProcessLog.m_GetLogAll", [&] {
     const Hourglass hourglass(platform_);
     const View view = ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
     if (view == View::kNone) return;
-    const Standing standing = StandingNow();
     Init();
     OptionsFilter filter = ReturnOptionsFilter(state, false);
     filter.state = state;
     ControlsVisible(static_cast<std::int32_t>(state));
-    BuildTree(view, filter, standing);
+    BuildTree(view, filter, std::move(standing));
   });
 }
 
-void ucProcessLog::BuildView(View view, const Standing& standing) {
+void ucProcessLog::BuildView(View view, Standing standing) {
   if (view == View::kNone) return;
   Propagating(BuilderOf(view), [&] {
     const Hourglass hourglass(platform_);
     Init();
-    BuildTree(view, ReturnOptionsFilter(StateFilter::kAll, true), standing);
+    BuildTree(view, ReturnOptionsFilter(StateFilter::kAll, true), std::move(standing));
   });
 }
 
@@ -107,12 +139,13 @@ void ucProcessLog::BuildView(View view, const Standing& standing) {
 // take it from the panel.
 void ucProcessLog::BuildAgain() {
   if (f_tlFromType == tlFromType::tlOneProcess) {
-    BuildAll(StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll));
+    BuildAll(StateFilterOf(controls_.cboState.selectedText()).value_or(StateFilter::kAll), StandingNow());
     return;
   }
-  // The host's whole log list is the alarms view here, though its tab click builds nothing.
-  const bool logs = f_tlFromType == tlFromType::tlLogs;
-  BuildView(logs ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()), StandingNow());
+  // The host's whole log list is the alarms view here, though its tab click builds nothing. So are alarms that a host
+  // built under the tab of another view.
+  const bool alarms = f_tlFromType == tlFromType::tlLogs || (tabRenamed_ && shown_.view == View::kAlarms);
+  BuildView(alarms ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()), StandingNow());
 }
 
 Error ucProcessLog::NotInThisVersion(std::string_view what) {
@@ -128,34 +161,26 @@ void ucProcessLog::ClearPanes() {
 
 // No batch of the tree is open while the component or the host is called: either may repaint, and a picture is drawn
 // from what the observers were told.
-void ucProcessLog::BuildTree(View view, const OptionsFilter& filter, const Standing& standing) {
-  toReturnTo_ = standing;
+void ucProcessLog::BuildTree(View view, const OptionsFilter& filter, Standing standing) {
+  toReturnTo_ = std::move(standing);
   shown_ = {view,
             filter,
             f_lngProcessId,
             IdentifierFor(tlFromType::tlOneUser),
             IdentifierFor(tlFromType::tlOneCompany),
-            IdentifierFor(tlFromType::tlOneAlarm),
+            f_tlFromType == tlFromType::tlOneAlarm ? f_lngIdAppLog : kAny,
             f_lngImportId};
-  NameTabs(view);
+  if (view == View::kProcesses) {
+    controls_.sstProcessLog.SetCaption(0, NameOf(View::kProcesses));
+    controls_.sstProcessLog.SetCaption(1, NameOf(View::kUsers));
+  }
   ModifyMotherListSize(view == View::kSystem);
   ClearPanes();
-  if (view == View::kSystem) return ListAllSystemsLogs(standing);
+  if (view == View::kSystem) return ListAllSystemsLogs();
   f_lngLogsType = LogsTypeOf(view);
   AppendRoots();
   SetfraListCaption();
-  SelectAfterBuild(standing);
-}
-
-// Hosts find the view that they built under a tab of its name.
-void ucProcessLog::NameTabs(View view) {
-  widgets::TabStrip& tabs = controls_.sstProcessLog;
-  if (view == View::kProcesses) {
-    tabs.SetCaption(0, NameOf(View::kProcesses));
-    tabs.SetCaption(1, NameOf(View::kUsers));
-  } else if (view == View::kAlarms || view == View::kImports) {
-    tabs.SetCaption(tabs.current(), NameOf(view));
-  }
+  SelectAfterBuild(*toReturnTo_);
 }
 
 void ucProcessLog::AppendRoots() {
@@ -171,11 +196,12 @@ void ucProcessLog::AppendRoots() {
       return tree::AppendUserNodes(parts.records, parts.count, groupBy, tree);
     }
     case View::kAlarms: {
-      const auto alarms = AskAlarms();
+      const bool ofStation = shown_.alarmId == kAny && shown_.userId != kAny;
+      const auto alarms = ofStation ? AskAlarmsOfDay({.owner = shown_.userId}) : AskAlarms();
       const bool one = shown_.alarmId != kAny || shown_.userId != kAny;
       return tree::AppendAlarmNodes(alarms.records, alarms.count,
                                     one ? tree::AlarmOwners::kOne : tree::AlarmOwners::kAll,
-                                    AlarmsWanted(shown_.userId), platform_, tree);
+                                    AlarmsWanted(shown_.userId, false), platform_, tree);
     }
     case View::kImports: {
       if (shown_.importId <= 0) return;
@@ -191,34 +217,36 @@ void ucProcessLog::AppendRoots() {
   }
 }
 
-// Which days have failed connections is a question of its own, where it can have an answer: of the newest connections
-// of each station it is not asked by day, and those that went well have no failed ones.
+// Which days have failed connections is a question of its own; those that went well have none.
 void ucProcessLog::AppendConnections() {
   const StateFilter state = shown_.filter.state;
   const auto days = AskDaysOfConnections(state);
   CommandLogAnswer failed;
   if (state == StateFilter::kError) failed = days;
   if (state == StateFilter::kAll) failed = AskDaysOfConnections(StateFilter::kError);
+  if (state == StateFilter::kLastExecution) failed = tree::CountByDay(AskConnections({}, true));
   tree::AppendMonthNodes(days, failed, controls_.chkGroupByDay.checked(), platform_, controls_.tvMotherList);
 }
 
 void ucProcessLog::AppendBackups() {
   for (const tree::BackupPlace place : {tree::BackupPlace::kServer, tree::BackupPlace::kStations}) {
-    const auto saves = AskSaves({static_cast<std::int32_t>(place), kAny, ShownPeriod()});
+    // A viewer of one station has nothing of the server.
+    if (place == tree::BackupPlace::kServer && shown_.userId != kAny) continue;
+    const auto saves = AskSaves({static_cast<std::int32_t>(place), shown_.userId, ShownPeriod()});
     tree::AppendBackupRoots(saves.records, saves.count, place, BackupsWanted(), controls_.tvMotherList);
   }
 }
 
-void ucProcessLog::ListAllSystemsLogs(const Standing& standing) {
+void ucProcessLog::ListAllSystemsLogs() {
   widgets::ListView& list = controls_.lvMotherList;
   PrepareList(list::SystemListHeaders());
   if (f_lngLogsType != enumLogsType::enumImports) {
     const auto logs = AskSystemLogs();
     list.SetRows(list::SystemListRows(logs.records, logs.count, platform_));
-    if (logs.count > 0) list.SetSelection(widgets::RowRanges(widgets::RowRange{0, 1}));
   }
+  if (toReturnTo_->listOf == util::kSystemPrefix) Restore(toReturnTo_->list, platform_, list);
+  if (list.Count() > 0 && list.Selection().empty()) list.SetSelection(widgets::RowRanges(widgets::RowRange{0, 1}));
   toReturnTo_.reset();
-  if (standing.listOf == util::kSystemPrefix) Restore(standing.list, platform_, list);
   SetfraListCaption();
   MajStatusBarInfrmMain();
 }
@@ -230,13 +258,21 @@ util::Period ucProcessLog::ShownPeriod() const {
   return {-kEver, kEver};
 }
 
-// Backups have no other outcome.
 tree::BackupsShown ucProcessLog::BackupsWanted() const {
-  if (shown_.filter.state == StateFilter::kOk) return tree::BackupsShown::kOk;
-  return shown_.filter.state == StateFilter::kError ? tree::BackupsShown::kFailed : tree::BackupsShown::kAll;
+  switch (shown_.filter.state) {
+    case StateFilter::kOk:
+      return tree::BackupsShown::kOk;
+    case StateFilter::kError:
+      return tree::BackupsShown::kFailed;
+    case StateFilter::kInProgress:
+    case StateFilter::kUnknown:
+      return tree::BackupsShown::kNone;  // a backup has no other outcome
+    default:
+      return tree::BackupsShown::kAll;
+  }
 }
 
-list::AlarmChoice ucProcessLog::AlarmsWanted(std::int32_t owner) const {
+list::AlarmChoice ucProcessLog::AlarmsWanted(std::int32_t owner, bool activeOnly) const {
   using list::AlarmsShown;
   list::AlarmChoice choice{.owner = owner};
   if (shown_.filter.state != StateFilter::kLastExecution) choice.period = shown_.filter.period();
@@ -255,7 +291,7 @@ list::AlarmChoice ucProcessLog::AlarmsWanted(std::int32_t owner) const {
     default:
       break;
   }
-  if (!controls_.chkAlarmFilter.checked()) return choice;
+  if (!activeOnly) return choice;
   const bool active = choice.shown == AlarmsShown::kAll || choice.shown == AlarmsShown::kActive;
   choice.shown = active ? AlarmsShown::kActive : AlarmsShown::kNone;
   return choice;

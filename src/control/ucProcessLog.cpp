@@ -81,11 +81,12 @@ void ucProcessLog::Init() {
       period = NumberWithin(LabelValue(*labels_, role + "_LOGS_DISPLAY_PERIOD"), 1, controls_.updDuring.maximum());
       unit = NumberWithin(LabelValue(*labels_, role + "_LOGS_DISPLAY_TYPE"), 0, 2);
     }
+    labelsRead_ = true;
+    if (periodSet_) return;
     controls_.txtDuring.SetText(period ? std::to_string(*period) : std::string(kDefaultPeriod));
     controls_.cboDuringUnit.Select(unit ? static_cast<std::size_t>(*unit) : kDaysRow);
     SetPeriodStart(controls_, platform_.Now());
     ShowPeriodEnd(controls_, platform_);
-    labelsRead_ = true;
   });
 }
 

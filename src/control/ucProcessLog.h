@@ -65,6 +65,10 @@ class ucProcessLog {
   void Subscribe(HostEvents& host);
   void Unsubscribe(HostEvents& host);
 
+  // Whether a request or a gesture is being worked on: another gesture does nothing then, so that a front end shows
+  // again what it was made on.
+  bool AtWork() const { return f_blnClickNode; }
+
   // Properties.
   widgets::ListItems ListItems() const { return widgets::ListItems(controls_.lvMotherList); }
   // Nothing when no row is selected.
@@ -234,18 +238,21 @@ class ucProcessLog {
   void Handle(std::string_view label, Body&& body);
 
   // Views. `standing`: where to be after the build, as far as that exists then.
-  void BuildView(View view, const Standing& standing);
+  void BuildView(View view, Standing standing);
   void BuildForHost(View view, bool refresh);
-  void BuildAll(StateFilter state);
-  void BuildTree(View view, const OptionsFilter& filter, const Standing& standing);
-  void NameTabs(View view);
+  void BuildAll(StateFilter state, Standing standing);
+  void BuildTree(View view, const OptionsFilter& filter, Standing standing);
+  void GoToTabOf(View view);
+  void RestoreTabName();
+  // Fills and shows the options of the current tab.
+  void ShowOptionsOfTab();
   // The period that the view shown was asked for.
   util::Period ShownPeriod() const;
   // Asks for what is at the root of a view, and appends it.
   void AppendRoots();
   void AppendConnections();
   void AppendBackups();
-  void ListAllSystemsLogs(const Standing& standing);
+  void ListAllSystemsLogs();
   // What "Refresh" does.
   void BuildAgain();
   // Empties tree and list, and what tells their numbers.
@@ -263,8 +270,7 @@ class ucProcessLog {
   void SelectAfterBuild(const Standing& standing);
   // Opens what was open, loading it where it is there.
   void OpenAgain(widgets::NodeId parent, const std::vector<OpenNode>& open);
-  // Scrolls the tree to a node, or to what is left of the way to it.
-  void ScrollToPlace(const tree::Place& place);
+  void ScrollBack(const std::vector<tree::Place>& tops);
   // Goes down to the deepest node on the way to a place that is there or can be loaded. `reached`, kNone before, is
   // that node, by an error on the way too.
   void DescendTo(const tree::Place& place, widgets::NodeId& reached);
@@ -287,14 +293,17 @@ class ucProcessLog {
   void tvMotherList_ExpandTask(widgets::NodeId node);
   void tvMotherList_ExpandProcess(widgets::NodeId node);
   void tvMotherList_ExpandComm(widgets::NodeId node);
-  void AppendConnectionsUnder(widgets::NodeId node);
+  void ExpandDay(widgets::NodeId node);
   void tvMotherList_ExpandImports(widgets::NodeId node);
   // Levels 1 to 3: the years of a root, the months of a year, the days of a month; 4: names and backups of a day.
   void tvMotherList_ExpandBackup(ExpandRoutine level, widgets::NodeId node);
   void tvMotherList_ExpandBackupLevel5(widgets::NodeId node);
+  void AppendFoldersUnder(widgets::NodeId node, const datasource::Answer<datasource::SavesRecords>& files);
 
   // Lists: fill lvMotherList for a node.
   void HandleNodeClick(widgets::NodeId node);
+  // The same as the user's choice, who wants to be nowhere else from then on.
+  void GoTo(widgets::NodeId node);
   void FillList(widgets::NodeId node);
   // Makes the headers these unless they stand already: widths that the user set stay.
   void PrepareList(const list::Headers& headers);
@@ -315,8 +324,8 @@ class ucProcessLog {
   void ListAllSubNodes(widgets::NodeId node, std::string_view caption);
   void ListConnections(widgets::NodeId node);
   void ListAlarms(widgets::NodeId node);
-  // Which alarms the tree was built for, and the check box leaves.
-  list::AlarmChoice AlarmsWanted(std::int32_t owner) const;
+  // Which alarms the tree was built for.
+  list::AlarmChoice AlarmsWanted(std::int32_t owner, bool activeOnly) const;
   tree::BackupsShown BackupsWanted() const;
   void ListRunsOfProcess(widgets::NodeId node);
   void ListRunsOnStation(widgets::NodeId node);
@@ -343,6 +352,8 @@ class ucProcessLog {
   CommandLogAnswer AskCommands(std::int32_t stepLog);
   CommandLogAnswer AskDaysOfConnections(StateFilter state);
   CommandLogAnswer AskConnections(const util::Period& period, bool failedOnly);
+  CommandLogAnswer AskAllUnder(widgets::NodeId node);
+  void AppendConnectionsUnder(widgets::NodeId node, const CommandLogAnswer& connections);
   CommandLogAnswer AskCommandsOfConnection(std::int32_t communication);
   datasource::Answer<datasource::AlarmsLogRecords> AskAlarms();
   datasource::Answer<datasource::AlarmsLogRecords> AskAlarmsOfDay(const tree::AlarmsOfNode& wanted);
@@ -389,7 +400,15 @@ class ucProcessLog {
   std::int32_t f_lngConsoleLoginUserRight = 0;
   bool listHasFocus_ = false;
   bool treeHasFocus_ = false;
-  bool tabsReduced_ = false;            // by p_TabStripVisible
+  bool tabsReduced_ = false;  // by p_TabStripVisible
+  // The tab that carries the name of a view in place of its own.
+  struct RenamedTab {
+    std::size_t tab = 0;
+    std::string caption;
+  };
+  std::optional<RenamedTab> tabRenamed_;
+  bool choseNode_ = false;              // the selected node is where the user went, not just the first one
+  bool periodSet_ = false;              // by the user
   bool tabChosen_ = false;              // by the user
   std::string processKeyLeft_;          // of the node of a process view that a tab click left last
   std::optional<Standing> toReturnTo_;  // nothing once a build came to its end

@@ -7,7 +7,7 @@ namespace quorvel::datasource {
 
 struct AlarmsLogRecords {
   Column<std::int32_t> lngAlarmId;
-  Column<std::int32_t> lngOwnerId;  // the station that the alarm is about, 0 = none
+  Column<std::int32_t> lngOwnerId;  // the station that the alarm is about, 0 = the server
   TextColumn strOwnerName;
   Column<DateValue> dtDate;
   Column<std::int32_t> lngSeverity;

@@ -40,7 +40,7 @@ std::vector<Cell> CellsOf(AlarmLayout layout) {
 widgets::ColumnHeader HeaderOf(Cell cell) {
   switch (cell) {
     case Cell::kOwner:
-      return TextHeader("Owner");
+      return TextHeader("Owner", kNameWidth);
     case Cell::kText:
       return TextHeader("Alarm", kReportWidth);
     case Cell::kRaised:
@@ -48,15 +48,15 @@ widgets::ColumnHeader HeaderOf(Cell cell) {
     case Cell::kSeverity:
       return NumberHeader("Severity");
     case Cell::kSource:
-      return TextHeader("Source");
+      return TextHeader("Source", kNameWidth);
     case Cell::kProcess:
-      return TextHeader("Process");
+      return TextHeader("Process", kNameWidth);
     case Cell::kBatch:
       return NumberHeader("Batch");
     case Cell::kState:
       return TextHeader("State");
     case Cell::kAcknowledgedBy:
-      return TextHeader("Acknowledged by");
+      return TextHeader("Acknowledged by", kNameWidth);
     case Cell::kAcknowledged:
       break;
   }

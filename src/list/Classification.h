@@ -29,6 +29,11 @@ inline constexpr std::string_view kUserNotOkCaption = "Not Ok";
 inline constexpr std::string_view kWithoutPopulation = "Without population";
 
 // A connection's or backup's station by its recorded name, which is empty where the station is not known any more.
+// A name, or what stands for one that is empty.
+inline std::string_view NamedOrNot(std::string_view name) {
+  return name.empty() ? std::string_view("Without a name") : name;
+}
+
 inline std::string_view NamedStation(std::string_view name) {
   return name.empty() ? std::string_view("Unknown station") : name;
 }

@@ -83,11 +83,14 @@ void AppendConnectionKey(const CommandLogRecords& rows, std::size_t row, std::st
 
 // A connection is known by when it was, as the tree shows it, so that comes first.
 Headers ConnectionListHeaders() {
-  constexpr widgets::Twips kStationWidth = 2400;
-  return {DateHeader("Start"),     TextHeader("Station", kStationWidth),
-          TextHeader("Direction"), DateHeader("End"),
-          DurationHeader(),        NumberHeader("Size (KB)", kWideNumber),
-          TextHeader("Status"),    TextHeader("Report", kReportWidth)};
+  return {DateWithIconHeader("Start"),
+          TextHeader("Station", kNameWidth),
+          TextHeader("Direction"),
+          DateHeader("End"),
+          DurationHeader(),
+          NumberHeader("Size (KB)", kWideNumber),
+          TextHeader("Status"),
+          TextHeader("Report", kReportWidth)};
 }
 
 Rows ConnectionListRows(const CommandLogRecords& records, std::int32_t count, std::string_view nodeKey,

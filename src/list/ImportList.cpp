@@ -25,23 +25,29 @@ class ImportRows final : public RecordRows<datasource::UsersImportRecords> {
       case 2:
         return records().dtDate[row];
       case 3:
-        return ResultCaption(false, IsOk(row), !IsOk(row));
+        return IsNobody(row) ? CellValue(std::string_view()) : ResultCaption(false, IsOk(row), !IsOk(row));
       default:
         return records().strReport[row];
     }
   }
 
-  std::string_view Icon(std::size_t row) const override { return IsOk(row) ? "User_Ok" : "User_NoOk"; }
+  std::string_view Icon(std::size_t row) const override {
+    if (IsNobody(row)) return "User_NoExecute";
+    return IsOk(row) ? "User_Ok" : "User_NoOk";
+  }
   widgets::RowLook Look(std::size_t row) const override { return ErrorLook(!IsOk(row)); }
 
  private:
-  bool IsOk(std::size_t row) const { return records().bResultOk[row] != 0; }
+  // The row of a run that imported nobody: it names no user, and nothing failed.
+  bool IsNobody(std::size_t row) const { return records().strUserName[row].empty() && IsOk(row); }
+  // Whatever is not recorded as done failed.
+  bool IsOk(std::size_t row) const { return records().bResultOk[row] == datasource::kTrue; }
 };
 
 }  // namespace
 
 Headers ImportListHeaders() {
-  return {TextHeader("Imported user"), NumberHeader("Batch"), DateHeader("Date"), TextHeader("Status"),
+  return {TextHeader("Imported user", kNameWidth), NumberHeader("Batch"), DateHeader("Date"), TextHeader("Status"),
           TextHeader("Report", kReportWidth)};
 }
 

@@ -26,6 +26,7 @@ using Rows = std::shared_ptr<const widgets::RowSource>;
 
 inline constexpr widgets::Twips kReportWidth = 5000;
 inline constexpr widgets::Twips kDateWidth = 2250;
+inline constexpr widgets::Twips kNameWidth = 2400;  // of stations, people and accounts
 inline constexpr widgets::Twips kWideNumber = 1300;
 
 inline widgets::ColumnHeader TextHeader(std::string_view caption, widgets::Twips width = widgets::kDefaultColumnWidth) {
@@ -33,6 +34,11 @@ inline widgets::ColumnHeader TextHeader(std::string_view caption, widgets::Twips
 }
 inline widgets::ColumnHeader DateHeader(std::string_view caption) {
   return {.caption = std::string(caption), .width = kDateWidth, .tag = widgets::ColumnTag::kDates};
+}
+// Of a list's first column, where the icon stands before the date.
+inline widgets::ColumnHeader DateWithIconHeader(std::string_view caption) {
+  constexpr widgets::Twips kIcon = 330;
+  return {.caption = std::string(caption), .width = kDateWidth + kIcon, .tag = widgets::ColumnTag::kDates};
 }
 inline widgets::ColumnHeader NumberHeader(std::string_view caption, widgets::Twips width = 1000) {
   return {.caption = std::string(caption),

@@ -66,8 +66,12 @@ class SystemRows final : public RecordRows<datasource::TaskSchedulerLogRecords> 
 }  // namespace
 
 Headers SystemListHeaders() {
-  return {DateHeader("Date"),    TextHeader("Machine"), TextHeader("Label"),
-          TextHeader("Company"), TextHeader("User"),    TextHeader("Attachment")};
+  return {DateHeader("Date"),
+          TextHeader("Machine"),
+          TextHeader("Label", kReportWidth),
+          TextHeader("Company", kNameWidth),
+          TextHeader("User", kNameWidth),
+          TextHeader("Attachment", kNameWidth)};
 }
 
 Rows SystemListRows(const datasource::TaskSchedulerLogRecords& records, std::int32_t count, const Platform& platform) {

@@ -139,17 +139,23 @@ DateValue AddInterval(DateValue date, DateInterval interval, std::int32_t count)
 }
 
 std::string FormatFixedDate(DateValue date) {
-  const std::string text = FormatFixedDateTime(date);
-  return text.substr(0, text.find(' '));
+  DateTimeBuffer buffer;
+  const std::string_view text = FormatFixedDateTime(date, buffer);
+  return std::string(text.substr(0, text.find(' ')));
 }
 
 std::string FormatFixedDateTime(DateValue date) {
+  DateTimeBuffer buffer;
+  return std::string(FormatFixedDateTime(date, buffer));
+}
+
+std::string_view FormatFixedDateTime(DateValue date, DateTimeBuffer& buffer) {
   const std::optional<CivilTime> civil = CivilFromDate(date);
   if (!civil) return {};
   // Written digit by digit: a list formats two dates for every row that it shows or copies.
-  std::string text = "0000-00-00 00:00:00";
-  const auto put = [&text](std::size_t last, unsigned value) {
-    for (; value > 0; value /= 10) text[last--] = static_cast<char>('0' + value % 10);
+  std::string_view("0000-00-00 00:00:00").copy(buffer.data(), buffer.size());
+  const auto put = [&buffer](std::size_t last, unsigned value) {
+    for (; value > 0; value /= 10) buffer[last--] = static_cast<char>('0' + value % 10);
   };
   put(3, static_cast<unsigned>(civil->year));
   put(6, civil->month);
@@ -157,7 +163,7 @@ std::string FormatFixedDateTime(DateValue date) {
   put(12, static_cast<unsigned>(civil->hour));
   put(15, static_cast<unsigned>(civil->minute));
   put(18, static_cast<unsigned>(civil->second));
-  return text;
+  return {buffer.data(), buffer.size()};
 }
 
 std::optional<DateValue> ParseFixedDate(std::string_view text) {

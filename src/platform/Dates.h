@@ -1,6 +1,7 @@
 // Dates as the record sources give them, and the calendar arithmetic that the viewer does with them.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -55,6 +56,10 @@ std::optional<std::int64_t> SecondsBetween(DateValue from, DateValue to);
 // be shown.
 std::string FormatFixedDate(DateValue date);
 std::string FormatFixedDateTime(DateValue date);
+
+// The same for many dates: date and time in `buffer`, as a view of it, or an empty one.
+using DateTimeBuffer = std::array<char, 19>;
+std::string_view FormatFixedDateTime(DateValue date, DateTimeBuffer& buffer);
 
 // Reads either fixed form (a "T" may stand for the blank). Empty when the text is no such date.
 std::optional<DateValue> ParseFixedDate(std::string_view text);

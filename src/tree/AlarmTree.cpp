@@ -25,7 +25,9 @@ struct Summary {
 bool IsWorse(const AlarmsLogRecords& rows, std::size_t row, std::size_t than) {
   const bool active = list::IsActiveAlarm(rows, row);
   if (active != list::IsActiveAlarm(rows, than)) return active;
-  return rows.lngSeverity[row] > rows.lngSeverity[than];
+  if (rows.lngSeverity[row] != rows.lngSeverity[than]) return rows.lngSeverity[row] > rows.lngSeverity[than];
+  if (rows.dtDate[row] != rows.dtDate[than]) return rows.dtDate[row] > rows.dtDate[than];
+  return rows.lngAlarmId[row] > rows.lngAlarmId[than];
 }
 
 void Add(Summary& sum, const AlarmsLogRecords& rows, const Summary& more) {

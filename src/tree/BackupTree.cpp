@@ -29,7 +29,9 @@ constexpr std::int32_t kDayField = 6;
 constexpr std::int32_t kSaveField = 8;
 constexpr std::size_t kFolderField = 11;
 
+// What has no date belongs to no year.
 bool IsShown(const SavesRecords& rows, std::size_t row, BackupsShown shown) {
+  if (shown == BackupsShown::kNone || !util::HasField(rows.dtDate[row])) return false;
   return shown == BackupsShown::kAll || list::IsFailedSave(rows, row) == (shown == BackupsShown::kFailed);
 }
 
@@ -168,7 +170,8 @@ void AppendBackupsOfDay(const SavesRecords& rows, std::int32_t count, BackupsSho
   const std::string above(tree.Key(day));
   tree.InBatch([&] {
     for (const NamedRows& each : names.TakeInOrder()) {
-      const NodeId name = AddCounted(tree, day, MakeKey(above, FieldOfName(each.name)), each.name, each.tally);
+      const NodeId name =
+          AddCounted(tree, day, MakeKey(above, FieldOfName(each.name)), list::NamedOrNot(each.name), each.tally);
       for (const std::size_t row : each.rows) AddBackup(rows, row, name, tree);
     }
   });

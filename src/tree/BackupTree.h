@@ -22,13 +22,14 @@
 namespace quorvel::tree {
 
 // Which backups a tree shows. GetSaves does not filter by outcome.
-enum class BackupsShown { kAll, kOk, kFailed };
+enum class BackupsShown { kAll, kOk, kFailed, kNone };
 
 // Where backups were made, with the values of GetSaves.
 enum class BackupPlace : std::int32_t { kServer = 0, kStations = 1 };
 
-// Nodes below tell how many backups they stand for, and stand out when one of them failed; one without any that is
-// shown is not there. All but the names and folders get a placeholder. Error 9 when a column lacks rows.
+// Backups without a date are in no tree. Nodes below tell how many backups they stand for, and stand out when one of
+// them failed; one without any that is shown is not there. All but the names and folders get a placeholder. Error 9
+// when a column lacks rows.
 
 // Appends the server, or a root for each station.
 void AppendBackupRoots(const datasource::SavesRecords& rows, std::int32_t count, BackupPlace place, BackupsShown shown,

@@ -51,8 +51,7 @@ class MonthBuilder {
 
   void Build(bool byDay) {
     for (std::size_t first = 0; first < tallies_.size();) {
-      // What has no date belongs to no month.
-      if (days_[first] == 0) {
+      if (!util::HasField(days_[first])) {
         ++first;
         continue;
       }
@@ -97,6 +96,26 @@ void AppendMonthNodes(const DayAnswer& days, const DayAnswer& failedDays, bool b
     datasource::RequireColumns(kDaysQuery, failedDays.records, static_cast<std::size_t>(failedDays.count));
   }
   tree.InBatch([&] { MonthBuilder(days, failedDays, platform, tree).Build(byDay); });
+}
+
+DayAnswer CountByDay(const DayAnswer& connections) {
+  const std::size_t count = connections.count > 0 ? static_cast<std::size_t>(connections.count) : 0;
+  std::vector<DateValue> days;
+  std::vector<std::int32_t> numbers;
+  for (std::size_t row = 0; row < count; ++row) {
+    const DateValue date = connections.records.dtCommunicationDate[row];
+    if (!util::HasField(date)) continue;
+    const DateValue day = DatePart(date);
+    if (days.empty() || days.back() != day) {
+      days.push_back(day);
+      numbers.push_back(0);
+    }
+    ++numbers.back();
+  }
+  DayAnswer answer{.records = {}, .count = static_cast<std::int32_t>(days.size())};
+  answer.records.dtCommunicationDate = datasource::Column<DateValue>(std::move(days));
+  answer.records.lngCommunications = datasource::Column<std::int32_t>(std::move(numbers));
+  return answer;
 }
 
 void AppendConnectionNodes(const datasource::CommandLogRecords& rows, std::int32_t count, const Platform& platform,

@@ -13,12 +13,15 @@ namespace quorvel::tree {
 
 using DayAnswer = datasource::Answer<datasource::CommandLogRecords>;
 
-// Appends months, with `byDay` their days too, for the answer of GetCommunicationsByMonth, in its order; what has no date
-// belongs to none. What shows the connections next, the day or else the month, gets a placeholder for them. `failedDays`
-// is the answer to the same question about failed connections alone; days and months with such stand out. Without it
-// nothing is known to have failed. `platform` formats the days. Error 9 when a column lacks rows.
+// Appends months, with `byDay` their days too, for the answer of GetCommunicationsByMonth, in its order; what has no
+// date belongs to none. What shows the connections next, the day or else the month, gets a placeholder for them.
+// `failedDays` is the answer to the same question about failed connections alone; days and months with such stand out.
+// Without it nothing is known to have failed. `platform` formats the days. Error 9 when a column lacks rows.
 void AppendMonthNodes(const DayAnswer& days, const DayAnswer& failedDays, bool byDay, const Platform& platform,
                       widgets::TreeView& tree);
+
+// The answer of GetCommunications, newest first, as days with their number.
+DayAnswer CountByDay(const DayAnswer& connections);
 
 // Appends a node for each row of GetCommunications under `parent`, a day or a month. Error 9 as above.
 void AppendConnectionNodes(const datasource::CommandLogRecords& rows, std::int32_t count, const Platform& platform,

@@ -132,6 +132,10 @@ Place PlaceOfKey(std::string_view key) {
 }
 
 Place EquivalentPlace(std::string_view leftKey, std::string_view key) {
+  // Back in the view that was left, its own levels tell.
+  if (util::Identifiant(leftKey, 1) == util::Identifiant(key, 1)) {
+    return PlaceOfKey(key.substr(0, LengthOfFields(key, util::SplitKey(leftKey).size())));
+  }
   return PlaceDownTo(key, LevelLeft(leftKey));
 }
 

@@ -13,9 +13,10 @@
 
 namespace quorvel::tree {
 
-// Appends the nodes for the rows of GetProcessLogs to `tree`, one pass: a row is one station of a run. Processes come in
-// the order that `groupBy` arranges, see RootOrder.h; what is below them in that of the rows. Groups get a placeholder for their stations. `platform` formats the dates. A run that cannot be labelled goes into
-// the log, and the next one is built. Error 9 when a column lacks rows.
+// Appends the nodes for the rows of GetProcessLogs to `tree`, one pass: a row is one station of a run. Processes come
+// in the order that `groupBy` arranges, see RootOrder.h; what is below them in that of the rows. Groups get a
+// placeholder for their stations. `platform` formats the dates. A run that cannot be labelled goes into the log, and
+// the next one is built. Error 9 when a column lacks rows.
 void AppendProcessNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, std::string_view groupBy,
                         const Platform& platform, datasource::ErrorsProcess& errors, widgets::TreeView& tree);
 

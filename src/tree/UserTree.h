@@ -21,8 +21,9 @@ struct ProcessOnStation {
 ProcessOnStation ReadProcessKey(std::string_view key);
 
 // Appends stations and their processes for the rows of GetProcessLogByUser to `tree`, one pass: a row is a station's
-// part in a run. Stations come in the order that `groupBy` arranges, see RootOrder.h. A station and a process show the worst that happened in their rows, so that what failed
-// last night is seen from the top. Processes get a placeholder for their runs. Error 9 when a column lacks rows.
+// part in a run. Stations come in the order that `groupBy` arranges, see RootOrder.h. A station and a process show the
+// worst that happened in their rows, so that what failed last night is seen from the top. Processes get a placeholder
+// for their runs. Error 9 when a column lacks rows.
 void AppendUserNodes(const datasource::ProcessLogRecords& rows, std::int32_t count, std::string_view groupBy,
                      widgets::TreeView& tree);
 

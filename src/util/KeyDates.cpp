@@ -30,6 +30,12 @@ std::string FieldOfDate(DateValue date, DateField field) {
   return text;
 }
 
+bool HasField(DateValue date) {
+  constexpr DateValue kFirst = -657'434;  // 0100-01-01
+  constexpr DateValue kLast = 2'958'465;  // 9999-12-31
+  return date != 0 && date >= kFirst && date < kLast + 1 - 1.0 / 86'400;
+}
+
 bool HaveSameField(DateValue a, DateValue b, DateField field) {
   if (a == b) return true;
   const std::optional<CivilTime> first = CivilFromDate(a);

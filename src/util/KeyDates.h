@@ -15,6 +15,9 @@ enum class DateField : std::size_t { kYear = 4, kMonth = 7, kDay = 10 };
 // A date as a field of a key, the same whatever the regional settings; empty for a date that cannot be shown.
 std::string FieldOfDate(DateValue date, DateField field);
 
+// Whether a date can be a field: it is not 0, which is none, and can be shown.
+bool HasField(DateValue date);
+
 // Whether two dates have the same field, found without making it.
 bool HaveSameField(DateValue a, DateValue b, DateField field);
 

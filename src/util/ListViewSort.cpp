@@ -166,7 +166,9 @@ std::vector<std::uint32_t> TextOrder(const ListView& list, std::int32_t column, 
 }  // namespace
 
 void ListViewSortColumn(const Platform& platform, ListView& list, std::size_t column) {
-  const bool isKey = std::cmp_equal(column, list.sortKey() + 1);
+  // A list that was filled anew is sorted by no column, whatever its sort key was before.
+  const bool isKey = std::cmp_equal(column, list.sortKey() + 1) && column <= list.headers().size() &&
+                     !list.headers()[column - 1].icon.empty();
   const bool turned = isKey && list.sortOrder() == SortOrder::kAscending;
   SortListViewBy(platform, list, column, turned ? SortOrder::kDescending : SortOrder::kAscending);
 }

@@ -9,8 +9,8 @@
 
 namespace quorvel::util {
 
-// Sorts `list` by a column, counted from 1: in the other direction when it is the list's sort key already, else
-// ascending. Selection, marks and icons go with their rows.
+// Sorts `list` by a column, counted from 1: in the other direction when the list is sorted by it already, as its
+// header shows, else ascending. Selection, marks and icons go with their rows.
 //
 // Columns of dates and numbers are sorted by CompareDates and CompareNumbers in a merge sort that keeps the item on the
 // left while the result is 0 or less. So "ascending" shows the latest date and the greatest number first, and rows that

@@ -529,8 +529,13 @@ TEST_F(ControlTest, LayoutKeepsItsBounds) {
   EXPECT_EQ(barAfterDragTo(99999), 13000);
   width = 14200;
   control.SizeControls(width);
-  EXPECT_FALSE(controls().imgSplitter.visible()) << "no room beside the tree: the list lies below it";
-  EXPECT_GE(controls().lvMotherList.bounds().top, controls().tvMotherList.bounds().bottom());
+  EXPECT_GE(controls().lvMotherList.bounds().top, controls().tvMotherList.bounds().bottom())
+      << "no room beside the tree: the list lies below it";
+  EXPECT_EQ(controls().imgSplitter.bounds().right(), controls().fraList.bounds().width);
+  width = 1e9F;
+  control.SizeControls(width);
+  EXPECT_EQ(barAfterDragTo(5000), 5000) << "and back";
+  EXPECT_EQ(controls().lvMotherList.bounds().top, controls().tvMotherList.bounds().top);
 }
 
 TEST_F(ControlTest, ASmallControlScrolls) {

@@ -64,7 +64,7 @@ TEST(ImportList, FailedUsersStandOutAndKeysTellUsersOfARunApart) {
   records.lngBatchNumber = MakeColumn<std::int32_t>({4, 4});
   records.dtDate = MakeColumn<double>({date, date});
   records.strUserName = MakeTexts({"ann", "b|n"});
-  records.bResultOk = MakeColumn<std::int16_t>({1, 0});
+  records.bResultOk = MakeColumn<std::int16_t>({-1, 1});
   records.strReport = MakeTexts({"", "Unknown group"});
   test::RecordingPlatform platform;
   const Rows rows = ImportListRows(records, 2, "LIMP|5|Staff|12", platform);

@@ -96,10 +96,10 @@ TEST_F(SessionTest, StaysUsableWhateverItIsAskedToOpen) {
 
 TEST_F(SessionTest, WritesAPictureOfItself) {
   const QString file = QString::fromStdString(folder.path() / "console.png");
-  EXPECT_TRUE(WritePicture(window, file));
+  EXPECT_TRUE(WritePicture(window, file, {}));
   EXPECT_EQ(QImage(file).size(), window.size());
   CaptureStderr();
-  EXPECT_FALSE(WritePicture(window, "/no/such/folder/console.png"));
+  EXPECT_FALSE(WritePicture(window, "/no/such/folder/console.png", {}));
   EXPECT_THAT(GetCapturedStderr(), HasSubstr("/no/such/folder/console.png"));
 }
 

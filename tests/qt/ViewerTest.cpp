@@ -7,12 +7,15 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 #include <QToolButton>
+#include <QWheelEvent>
 #include <stdexcept>
 
 #include "qt/Guard.h"
@@ -151,6 +154,106 @@ TEST_F(ViewerTest, TheTabKeyGoesThroughTheOptionsIntoThePanes) {
   for (const char* name : {"tvMotherList", "lvMotherList", "sstProcessLog", "dtpHour"}) {
     EXPECT_FALSE(Find<QWidget>(name).accessibleName().isEmpty()) << name;
   }
+}
+
+TEST_F(ViewerTest, EachTabsFieldsHaveAccessKeysOfTheirOwnAndSayWhatTheyAreFor) {
+  for (const char* tab : {"Processes", "Users", "Connections", "System", "Alarms", "Backups"}) {
+    auto& tabs = Find<QTabBar>("sstProcessLog");
+    for (int i = 0; i < tabs.count(); ++i) {
+      if (tabs.tabText(i) == tab) controls().sstProcessLog.SetCurrent(static_cast<std::size_t>(i));
+    }
+    viewer->control().ControlsVisible(0);
+    QString keys = "FEVH";  // of the menus of a host
+    for (QWidget* field : Find<QWidget>("fraOption").findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+      if (!field->isVisible()) continue;
+      const QString caption = field->property("text").toString();
+      const qsizetype mark = caption.indexOf('&');
+      const bool isLabel = qobject_cast<QLabel*>(field) != nullptr;
+      if (mark >= 0) {
+        EXPECT_FALSE(keys.contains(caption[mark + 1].toUpper())) << tab << ": " << caption.toStdString();
+        keys.append(caption[mark + 1].toUpper());
+      } else {
+        EXPECT_FALSE(field->toolTip().isEmpty()) << tab << ": " << field->objectName().toStdString();
+      }
+      EXPECT_TRUE(isLabel || !field->toolTip().isEmpty()) << tab << ": " << field->objectName().toStdString();
+    }
+  }
+}
+
+TEST_F(ViewerTest, KeysChangeTheTabInACircle) {
+  viewer->control().p_FromType(tlFromType::tlAllProcess);
+  auto& tabs = Find<QTabBar>("sstProcessLog");
+  viewer->tree().setFocus();
+  const auto after = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    return tabs.tabText(tabs.currentIndex()).toStdString();
+  };
+  EXPECT_EQ(after(Qt::Key_PageDown, Qt::ControlModifier), "Users");
+  EXPECT_EQ(after(Qt::Key_Tab, Qt::ControlModifier), "Processes") << "the tabs between are not shown";
+  EXPECT_EQ(after(Qt::Key_PageUp, Qt::ControlModifier), "Users");
+  EXPECT_EQ(after(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), "Processes");
+}
+
+TEST_F(ViewerTest, TheGroupOrderIsArrangedByKeys) {
+  auto& order = Find<QListWidget>("lstGroupBy");
+  EXPECT_FALSE(order.verticalScrollBar()->isVisible());
+  EXPECT_TRUE(order.viewport()->rect().contains(order.visualItemRect(order.item(3)))) << "no row is cut";
+  order.setFocus();
+  QTest::keyClick(&order, Qt::Key_Down);
+  QTest::keyClick(&order, Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(order.item(0)->text().toStdString(), "- User");
+  EXPECT_EQ(order.currentRow(), 0) << "it stays selected";
+}
+
+TEST_F(ViewerTest, AComboOpensByKeyAndEscapeLeavesItAsItWas) {
+  auto& state = Find<QComboBox>("cboState");
+  state.setFocus();
+  for (const Qt::Key key : {Qt::Key_F4, Qt::Key_Space}) {
+    QTest::keyClick(&state, key);
+    ASSERT_TRUE(state.view()->isVisible());
+    QTest::keyClick(state.view(), Qt::Key_Home);
+    QTest::keyClick(state.view(), Qt::Key_Escape);
+    EXPECT_FALSE(state.view()->isVisible());
+    EXPECT_EQ(controls().cboState.selectedText(), "Last execution");
+  }
+}
+
+TEST_F(ViewerTest, TheWheelTurnsOnlyTheFieldThatHasTheFocus) {
+  ChooseAll();
+  const auto turn = [&](const char* name, int angle) {
+    auto& field = Find<QWidget>(name);
+    QWheelEvent wheel({5, 5}, field.mapToGlobal(QPointF(5, 5)), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&field, &wheel);
+  };
+  viewer->tree().setFocus();
+  const DateValue date = controls().dtpDate.value();
+  for (const char* name : {"cboState", "dtpDate", "dtpHour", "txtDuring", "cboDuringUnit", "lstGroupBy"}) {
+    turn(name, -120);
+    turn(name, 120);
+    turn(name, 120);
+  }
+  EXPECT_EQ(controls().cboState.selectedText(), "All");
+  EXPECT_EQ(controls().dtpDate.value(), date);
+  EXPECT_EQ(controls().txtDuring.text(), "1");
+  EXPECT_EQ(controls().cboDuringUnit.selectedText(), "Days");
+  EXPECT_EQ(controls().lstGroupBy.selected(), 0U);
+  Find<QLineEdit>("txtDuring").setFocus();
+  turn("txtDuring", 60);
+  EXPECT_EQ(controls().txtDuring.text(), "1") << "half a notch of a touch pad";
+  turn("txtDuring", 180);
+  EXPECT_EQ(controls().txtDuring.text(), "3");
+}
+
+TEST_F(ViewerTest, AFieldReachedByKeyIsBroughtIntoSight) {
+  form.resize(320, 240);
+  QCoreApplication::processEvents();
+  auto& refresh = Find<QPushButton>("cmdRefresh");
+  const auto inSight = [&] { return refresh.visibleRegion().boundingRect() == refresh.rect(); };
+  ASSERT_FALSE(inSight());
+  refresh.setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(inSight());
+  EXPECT_GT(controls().HScroll.value(), 0);
 }
 
 TEST(QtPlatform, WritesIntoTheHostsFirstPanelWhenThereIsOne) {

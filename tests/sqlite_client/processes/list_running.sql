@@ -1,5 +1,5 @@
 -- A run while it runs: its stations, what needs attention first.
-INSERT INTO header VALUES ('running', 'Station¦Identifier¦Company¦Status¦Waiting for¦Report¦Start¦End');
+INSERT INTO header (list, text) VALUES ('running', 'Station¦Identifier¦Company¦Status¦Waiting for¦Report¦Start¦End');
 
 INSERT INTO shown
 SELECT n.number, row_number() OVER (PARTITION BY n.number ORDER BY p.urgency, p.place), p.grp = 2, p.icon,

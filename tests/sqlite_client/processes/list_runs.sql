@@ -1,5 +1,5 @@
 -- All runs of a process, whatever the period.
-INSERT INTO header VALUES
+INSERT INTO header (list, text) VALUES
   ('runs', 'Batch¦Start¦End¦Duration¦Status¦Stations¦OK¦Not OK¦In progress¦Not executed¦Unknown');
 
 INSERT INTO shown

@@ -1,5 +1,5 @@
 -- The stations of one state group.
-INSERT INTO header VALUES ('state', 'Name¦Identifier¦Company¦Report¦Start¦End¦Status');
+INSERT INTO header (list, text) VALUES ('state', 'Name¦Identifier¦Company¦Report¦Start¦End¦Status');
 
 INSERT INTO shown
 SELECT n.number, p.place, p.caption = 'Not Ok', p.icon, p.station_id || '|' || n.key,

@@ -1,5 +1,5 @@
 -- The process tree down to the stations.
-CREATE TEMP TABLE tab AS SELECT 'Processes' AS caption;
+INSERT INTO tab (caption) VALUES ('Processes');
 
 INSERT INTO line (level, path, key, text, icon)
 SELECT 1, printf('%06d', row_number() OVER (ORDER BY process_name COLLATE NOCASE, process_id)), process_key,

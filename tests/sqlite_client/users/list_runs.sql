@@ -1,5 +1,5 @@
 -- The runs of a process on one station, with the station's own outcome. They end when the station's part does.
-INSERT INTO header VALUES ('station runs', 'Run¦Start¦End¦Duration¦Place¦Status');
+INSERT INTO header (list, text) VALUES ('station runs', 'Run¦Start¦End¦Duration¦Place¦Status');
 
 INSERT INTO shown
 SELECT number, row_number() OVER (PARTITION BY number ORDER BY began DESC, run DESC), caption = 'Not Ok', own_icon,

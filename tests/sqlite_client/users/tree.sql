@@ -1,6 +1,6 @@
 -- The station-first tree down to the runs. A station and a process look like the worst of their parts, one in progress
 -- like the newest of them.
-CREATE TEMP TABLE tab AS SELECT 'Users' AS caption;
+INSERT INTO tab (caption) VALUES ('Users');
 
 INSERT INTO line (level, path, key, text, icon)
 SELECT 1, printf('%06d', row_number() OVER (ORDER BY sort_name COLLATE NOCASE, station_id)), user_key,

@@ -1,4 +1,4 @@
--- Tasks and steps, which look the same in both trees, and all lines of the tree in their order.
+-- Tasks and steps, which look the same in both trees.
 INSERT INTO line (level, path, key, text, icon, bold, below)
 SELECT l.level + 1, l.path || printf('%06d%09d', t.position, t.task_run_id), l.key || '|' || t.task_id, t.tree_text,
        t.icon, t.status = 'Not Ok', EXISTS (SELECT 1 FROM step s WHERE s.task_run_id = t.task_run_id)
@@ -9,8 +9,3 @@ INSERT INTO line (level, path, key, text, icon, bold, below)
 SELECT l.level + 1, l.path || printf('%09d', s.step_log_id), l.key || '|' || s.step_log_id || '|' || s.task_run_id,
        s.tree_text, s.icon, s.status = 'Not Ok', 0
 FROM node o JOIN line l USING (key) JOIN step s USING (task_run_id) WHERE o.list = 'steps';
-
-INSERT INTO tree_line
-SELECT row_number() OVER (ORDER BY path), l.level,
-       CASE WHEN NOT below THEN ' ' WHEN n.opened THEN '-' ELSE '+' END, text, key, icon, bold
-FROM line l LEFT JOIN node n USING (key);

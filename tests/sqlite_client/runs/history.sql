@@ -1,12 +1,5 @@
--- What the comparisons share: the history as people read it, from the tables alone. Flags are judged here, not by the
--- viewer's rules. A broken bar, which stands in no text, parts the cells of a line; it becomes a tab in the end.
-.mode list
-
--- The period of the script, its present, and the role of the installation.
-CREATE TEMP TABLE setting AS
-SELECT 46023 AS period_start, 49035 AS period_end,  -- 2026-01-01 and 99 months later
-       46347 + 13 / 24.0 + 30 / 86400.0 AS present,
-       EXISTS (SELECT 1 FROM label WHERE name = 'UseType' AND value = 'SERVEUR') AS on_server;
+-- What both views of runs share: the history as people read it, from the tables alone. Flags are judged here, not by
+-- the viewer's rules.
 
 -- Parts of stations, with the outcome that each is shown with.
 CREATE TEMP TABLE part AS
@@ -102,15 +95,3 @@ FROM (
               WHEN ok <> 0 THEN 'Ok' WHEN not_ok <> 0 THEN 'Not Ok' ELSE '' END AS status
   FROM command_log);
 CREATE INDEX temp.command_by_step ON sent_command (step_log_id);
-
--- The nodes that the script looks at: which list a click on one fills, and whether it is opened before.
-CREATE TEMP TABLE node (
-  number INTEGER PRIMARY KEY, key, level, list, opened,
-  process_id, run, grp, station_id, task_id, task_run_id, step_log_id
-);
--- What the tree shows, and what each list does, line by line; `number` is the node's. The path orders the tree: a
--- child's begins with its parent's.
-CREATE TEMP TABLE line (level, path, key PRIMARY KEY, text, icon, bold DEFAULT 0, below DEFAULT 1);
-CREATE TEMP TABLE tree_line (line INTEGER PRIMARY KEY, level, expander, text, key, icon, bold);
-CREATE TEMP TABLE shown (number, line, failed, icon, key, cells);
-CREATE TEMP TABLE header (list PRIMARY KEY, text);

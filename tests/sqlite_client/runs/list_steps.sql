@@ -1,5 +1,5 @@
 -- The steps of a task. One that is both OK and not OK reads "Ok" and is marked.
-INSERT INTO header VALUES ('steps', 'Step¦Settings¦Report¦Execution location¦Start¦End¦Status');
+INSERT INTO header (list, text) VALUES ('steps', 'Step¦Settings¦Report¦Execution location¦Start¦End¦Status');
 
 INSERT INTO shown
 SELECT n.number, row_number() OVER (PARTITION BY n.number ORDER BY s.step_log_id), s.failed, s.icon,

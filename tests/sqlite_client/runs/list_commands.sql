@@ -1,5 +1,5 @@
 -- The commands of a step.
-INSERT INTO header VALUES ('commands', 'Command¦Kind¦Result¦Report¦Start¦End¦Status');
+INSERT INTO header (list, text) VALUES ('commands', 'Command¦Kind¦Result¦Report¦Start¦End¦Status');
 
 INSERT INTO shown
 SELECT n.number, row_number() OVER (PARTITION BY n.number ORDER BY c.command_log_id), c.status = 'Not Ok', c.icon,

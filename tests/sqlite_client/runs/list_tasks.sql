@@ -1,5 +1,5 @@
 -- The tasks of a run on a station, with those that ran once for all stations.
-INSERT INTO header VALUES ('tasks', 'Task¦Type¦Report¦Start¦End¦Status');
+INSERT INTO header (list, text) VALUES ('tasks', 'Task¦Type¦Report¦Start¦End¦Status');
 
 INSERT INTO shown
 SELECT n.number, row_number() OVER (PARTITION BY n.number ORDER BY t.position, t.task_run_id), t.status = 'Not Ok',

@@ -1,0 +1,2 @@
+-- There is none.
+INSERT INTO tab VALUES ('System', 1);
