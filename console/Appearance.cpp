@@ -14,10 +14,10 @@ struct RoleColour {
 };
 
 constexpr RoleColour kDark[] = {
-    {QPalette::Window, 0x2B2D31},      {QPalette::WindowText, 0xE6E8EB},
-    {QPalette::Base, 0x1F2124},        {QPalette::AlternateBase, 0x26282C},
+    {QPalette::Window, 0x33363B},      {QPalette::WindowText, 0xE6E8EB},
+    {QPalette::Base, 0x1B1C1F},        {QPalette::AlternateBase, 0x232529},
     {QPalette::ToolTipBase, 0x3A3D43}, {QPalette::ToolTipText, 0xE6E8EB},
-    {QPalette::Text, 0xE6E8EB},        {QPalette::Button, 0x383B41},
+    {QPalette::Text, 0xE6E8EB},        {QPalette::Button, 0x43474E},
     {QPalette::ButtonText, 0xE6E8EB},  {QPalette::BrightText, 0xFFFFFF},
     {QPalette::Highlight, 0x2F6FB5},   {QPalette::HighlightedText, 0xFFFFFF},
     {QPalette::Link, 0x6FB1F5},        {QPalette::PlaceholderText, 0x8B9199},

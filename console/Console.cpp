@@ -36,6 +36,16 @@ int ExitCode(bool ok) {
   return ok ? 0 : 1;
 }
 
+// Where to look for a picture of the window; nowhere when it has no such part.
+QRect PlaceOf(const QWidget& window, const QString& part) {
+  constexpr int kSurroundings = 8;  // pixels, so that one sees where the part ends
+  if (part.isEmpty()) return window.rect();
+  const auto* const widget = window.findChild<QWidget*>(part);
+  if (widget == nullptr) return {};
+  const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+  return place.adjusted(-kSurroundings, -kSurroundings, kSurroundings, kSurroundings) & window.rect();
+}
+
 int ShowWindow(const ConsoleOptions& options) {
   const bool unattended = IsUnattended();
   const Audience audience = unattended                     ? Audience::kTerminal
@@ -47,16 +57,17 @@ int ShowWindow(const ConsoleOptions& options) {
   window.show();
   bool ok = options.history.isEmpty() || session.OpenHistory(options.history);
   if (ok && !options.tab.isEmpty()) ok = session.ChooseTab(options.tab);
-  if (!options.screenshot.isEmpty()) ok = WritePicture(window, options.screenshot) && ok;
+  if (!options.screenshot.isEmpty()) ok = WritePicture(window, options.screenshot, options.part) && ok;
   // A person goes on from here; without one the picture was all there was to do.
   return unattended ? ExitCode(ok) : QApplication::exec();
 }
 
 }  // namespace
 
-bool WritePicture(QWidget& window, const QString& file) {
+bool WritePicture(QWidget& window, const QString& file, const QString& part) {
   QCoreApplication::processEvents();
-  const bool written = window.grab().save(file);
+  const QRect place = PlaceOf(window, part);
+  const bool written = !place.isEmpty() && window.grab(place).save(file);
   if (written) {
     std::cout << qt::FromQt(file) << std::endl;
   } else {

@@ -10,7 +10,8 @@ namespace quorvel::console {
 // picture not written; 2: the arguments are not understood.
 int RunConsole(int argc, char** argv);
 
-// Writes what the window shows as a PNG file and prints its name; says on the terminal when it cannot.
-bool WritePicture(QWidget& window, const QString& file);
+// Writes what the window shows, or the control of it named `part`, as a PNG file and prints its name; says on the
+// terminal when it cannot.
+bool WritePicture(QWidget& window, const QString& file, const QString& part);
 
 }  // namespace quorvel::console

@@ -56,6 +56,7 @@ void Declare(QCommandLineParser& parser) {
       {"from-type", "Open the viewer for this view (default tlOneProcess).", "NAME"},
       {"process-id", "Show this process only (default -1: all).", "N"},
       {"screenshot", "Write a picture of the window; end then, unless a person sits in front of it.", "FILE.png"},
+      {"part", "Of that picture only this control, for example fraOption.", "NAME"},
       {"scenario", "Run the scenario in FILE, print what it prints, and end.", "FILE"},
       {"headless", "Run the scenario without windows."},
       {"size", "Size of the window in pixels (default 1180x760).", "WIDTHxHEIGHT"},
@@ -69,6 +70,7 @@ ConsoleOptions OptionsOf(const QCommandLineParser& parser) {
   options.history = parser.value("history");
   options.tab = parser.value("tab");
   options.screenshot = parser.value("screenshot");
+  options.part = parser.value("part");
   options.scenario = parser.value("scenario");
   options.headless = parser.isSet("headless");
   options.dark = parser.isSet("dark");
@@ -76,6 +78,7 @@ ConsoleOptions OptionsOf(const QCommandLineParser& parser) {
   if (parser.isSet("process-id")) options.processId = NumberOf("--process-id", parser.value("process-id"));
   if (parser.isSet("size")) options.size = SizeOf(parser.value("size"));
   if (options.headless && options.scenario.isEmpty()) throw UsageError("--headless needs --scenario");
+  if (!options.part.isEmpty() && options.screenshot.isEmpty()) throw UsageError("--part needs --screenshot");
   return options;
 }
 

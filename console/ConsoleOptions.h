@@ -14,6 +14,7 @@ struct ConsoleOptions {
   QString history;     // URL of a connection, "" = none
   QString tab;         // caption, "" = the first
   QString screenshot;  // file to write a picture of the window to, "" = none
+  QString part;        // name of the control to draw of the window, "" = all
   QString scenario;    // file to run, "" = none
   bool headless = false;
   tlFromType fromType = tlFromType::tlOneProcess;

@@ -49,7 +49,9 @@ int RunScenarioOnQt(const ConsoleOptions& options) {
   });
   scenario::Scenario scenario(port);
   bool ok = RunScript(scenario, options);
-  if (!options.screenshot.isEmpty() && !windows.empty()) ok = WritePicture(*windows.back(), options.screenshot) && ok;
+  if (!options.screenshot.isEmpty() && !windows.empty()) {
+    ok = WritePicture(*windows.back(), options.screenshot, options.part) && ok;
+  }
   return ExitCode(ok);
 }
 
