@@ -41,10 +41,11 @@ class AlarmsLogSource final : public SourceBase<datasource::AlarmsLog, datasourc
 
  private:
   void Fill(Statement& rows) {
-    count_ = FillColumns(rows, records_.lngAlarmId, records_.lngOwnerId, records_.strOwnerName, records_.dtDate,
-                         records_.lngSeverity, records_.lngAction, records_.strOrigin, records_.strText,
-                         records_.bAcknowledged, records_.strAcknowledgedBy, records_.dtAcknowledged,
-                         records_.lngProcessLogId, records_.strProcessName);
+    count_ =
+        FillColumns(rows, records_.lngAlarmId, records_.lngOwnerId, records_.strOwnerName, records_.dtDate,
+                    records_.lngSeverity, records_.lngAction, records_.strOrigin, records_.strText,
+                    records_.bAcknowledged, records_.strAcknowledgedBy, records_.dtAcknowledged,
+                    records_.lngProcessLogId, records_.strProcessName, records_.lngProcessId, records_.bRunOnStation);
   }
 };
 

@@ -13,18 +13,22 @@ inline constexpr std::string_view kImportExists = "SELECT 1 FROM user_import WHE
 // GetAlarms.
 inline constexpr std::string_view kAlarms = R"sql(
   SELECT a.alarm_id, t.station_id, t.name, a.raised_date, a.severity, a.action, a.origin, a.text, a.acknowledged,
-         a.acknowledged_by, a.acknowledged_date, a.process_run_id, a.process_name
+         a.acknowledged_by, a.acknowledged_date, a.process_run_id, a.process_name, ifnull(r.process_id, 0),
+         ifnull(r.on_station, 0)
   FROM station t
   CROSS JOIN alarm a ON a.owner_id = t.station_id
+  LEFT JOIN process_run r ON r.process_run_id = a.process_run_id
   WHERE (:alarm = -1 OR a.alarm_id = :alarm)
   ORDER BY t.name, t.station_id, a.raised_date DESC, a.alarm_id DESC)sql";
 
 // GetAlarmsByDay.
 inline constexpr std::string_view kAlarmsOfDay = R"sql(
   SELECT a.alarm_id, t.station_id, t.name, a.raised_date, a.severity, a.action, a.origin, a.text, a.acknowledged,
-         a.acknowledged_by, a.acknowledged_date, a.process_run_id, a.process_name
+         a.acknowledged_by, a.acknowledged_date, a.process_run_id, a.process_name, ifnull(r.process_id, 0),
+         ifnull(r.on_station, 0)
   FROM alarm a
   CROSS JOIN station t ON t.station_id = a.owner_id
+  LEFT JOIN process_run r ON r.process_run_id = a.process_run_id
   WHERE (:owner = -1 OR a.owner_id = :owner)
     AND a.raised_date >= :from AND a.raised_date < :to
     AND (:state = -1 OR (a.acknowledged <> 0) = :state)

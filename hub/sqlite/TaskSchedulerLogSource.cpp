@@ -15,7 +15,8 @@ constexpr std::int32_t kSchedulerKind = 3;
 datasource::TextColumn DateTexts(const datasource::Column<DateValue>& dates) {
   datasource::TextColumnBuilder texts;
   texts.Reserve(dates.size());
-  for (const DateValue date : dates.values()) texts.Append(FormatFixedDateTime(date));
+  DateTimeBuffer buffer;
+  for (const DateValue date : dates.values()) texts.Append(FormatFixedDateTime(date, buffer));
   return texts.Take();
 }
 

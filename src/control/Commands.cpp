@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "control/Entry.h"
+#include "util/PublicFunctions.h"
 #include "util/WholeTree.h"
 
 namespace quorvel {
@@ -19,7 +20,7 @@ struct ucProcessLog::Command {
 const ucProcessLog::Command* ucProcessLog::CommandOf(std::int32_t code) {
   static constexpr Command kCommands[] = {
       {kOpen, "Quorvel: ucProcessLog.mnu_open_Click", nullptr},
-      {kCopy, "Quorvel: ucProcessLog.mnu_copy_Click", nullptr},
+      {6, "Quorvel: ucProcessLog.mnu_copy_Click", &ucProcessLog::mnu_copy_Click},
       {12, "Quorvel: ucProcessLog.mnu_select_all_Click", &ucProcessLog::mnu_select_all_Click},
       {13, "Quorvel: ucProcessLog.mnu_open_file_Click", nullptr},
       {14, "Quorvel: ucProcessLog.mnu_report_Click", nullptr},
@@ -47,8 +48,7 @@ void ucProcessLog::m_Open() {
 }
 
 void ucProcessLog::m_Copy() {
-  std::int32_t code = kCopy;
-  m_MenuCall(code);
+  mnu_copy_Click();
 }
 
 void ucProcessLog::m_SelectAll() {
@@ -70,6 +70,10 @@ void ucProcessLog::m_GetMenuState(bool& menuVisible, bool& openEnabled, bool& co
         &tvExpandAllEnabled, &tvCollapseAllEnabled, &openJoinFileEnabled}) {
     *flag = false;
   }
+}
+
+void ucProcessLog::mnu_copy_Click() {
+  Handle("Quorvel: ucProcessLog.mnu_copy_Click", [&] { util::m_CopyListView(platform_, controls_.lvMotherList); });
 }
 
 void ucProcessLog::mnu_select_all_Click() {

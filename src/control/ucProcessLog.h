@@ -133,8 +133,9 @@ class ucProcessLog {
                       bool& tvExpandAllEnabled, bool& tvCollapseAllEnabled, bool& openJoinFileEnabled) const;
   // Runs the menu command of this code, see Commands.cpp; another code does nothing. As the menus do, it shows errors.
   void m_MenuCall(std::int32_t& command);
-  // Opens the selected row, copies the list, in the same way; without a selected row nothing is opened.
+  // Opens the selected row in the same way; without a selected row nothing is opened.
   void m_Open();
+  // Replaces the clipboard with the header captions and the selected rows.
   void m_Copy();
   // Error 445: not part of this version.
   void m_GetDetail();
@@ -190,6 +191,7 @@ class ucProcessLog {
   void lvMotherList_LostFocus();
   void tvMotherList_GotFocus();
   void tvMotherList_LostFocus();
+  void mnu_copy_Click();
   void mnu_select_all_Click();
   void mnu_popupTV_Expand_all_Click();
   void mnu_popupTV_Collapse_all_Click();
@@ -203,7 +205,6 @@ class ucProcessLog {
  private:
   struct Command;
   static constexpr std::int32_t kOpen = 2;
-  static constexpr std::int32_t kCopy = 6;
   static const Command* CommandOf(std::int32_t code);
   // Error 445.
   static Error NotInThisVersion(std::string_view what);

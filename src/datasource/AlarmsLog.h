@@ -19,6 +19,8 @@ struct AlarmsLogRecords {
   Column<DateValue> dtAcknowledged;
   Column<std::int32_t> lngProcessLogId;  // the run that raised it, 0 = none
   TextColumn strProcessName;
+  Column<std::int32_t> lngProcessId;  // the process of that run, 0 = none, or the run is gone
+  Column<Flag> bRunOnStation;         // non-zero: the run is on a station
 
   // Calls visit(name, column) for each column, in member order.
   template <class Self, class Visit>
@@ -36,6 +38,8 @@ struct AlarmsLogRecords {
     visit("dtAcknowledged", self.dtAcknowledged);
     visit("lngProcessLogId", self.lngProcessLogId);
     visit("strProcessName", self.strProcessName);
+    visit("lngProcessId", self.lngProcessId);
+    visit("bRunOnStation", self.bRunOnStation);
   }
 };
 

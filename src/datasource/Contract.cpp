@@ -46,10 +46,10 @@ constexpr Names kDayRows[] = {"dtCommunicationDate", "lngCommunications"};
 constexpr Names kCommandRows[] = {
     "lngCommunicationId", "dtCommunicationDate", "lngCommandLogId", "lngKind",     "lngResult", "strText",
     "strReport",          "dtStartDate",         "dtEndDate",       "bInProgress", "bResultOk", "bResultNotOk"};
-constexpr Names kAlarmRows[] = {"lngAlarmId",    "lngOwnerId",        "strOwnerName",   "dtDate",
-                                "lngSeverity",   "lngAction",         "strOrigin",      "strText",
-                                "bAcknowledged", "strAcknowledgedBy", "dtAcknowledged", "lngProcessLogId",
-                                "strProcessName"};
+constexpr Names kAlarmRows[] = {"lngAlarmId",     "lngOwnerId",        "strOwnerName",   "dtDate",
+                                "lngSeverity",    "lngAction",         "strOrigin",      "strText",
+                                "bAcknowledged",  "strAcknowledgedBy", "dtAcknowledged", "lngProcessLogId",
+                                "strProcessName", "lngProcessId",      "bRunOnStation"};
 constexpr Names kSaveRows[] = {"lngSaveId", "lngUserId", "strUserName", "strName", "dtDate", "lngSizeKb", "bResultOk"};
 constexpr Names kFileRows[] = {"lngSaveId", "strName", "dtDate", "lngSizeKb", "strPath", "bResultOk"};
 constexpr Names kImportRows[] = {"strName", "lngProcessId", "strProcessName"};

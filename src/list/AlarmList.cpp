@@ -73,8 +73,11 @@ class AlarmRows final : public RecordRows<AlarmsLogRecords> {
   void AppendKey(std::size_t row, std::string& out) const override {
     const std::size_t alarm = AlarmAt(row);
     AppendIdKey(records().lngAlarmId[alarm], out);
-    const std::int32_t run = records().lngProcessLogId[alarm];
-    if (run != 0) out.append(util::kKeySeparator).append(std::to_string(run));
+    if (records().lngProcessId[alarm] == 0) return;
+    for (const std::int32_t field : {records().lngProcessId[alarm], records().bRunOnStation[alarm] != 0 ? 1 : 0,
+                                     records().lngProcessLogId[alarm]}) {
+      out.append(util::kKeySeparator).append(std::to_string(field));
+    }
   }
 
   CellValue CellOf(std::size_t row, std::size_t column) const override {
@@ -155,11 +158,14 @@ Rows AlarmListRows(const AlarmsLogRecords& records, std::int32_t count, std::str
   return std::make_shared<AlarmRows>(records, count, std::string(nodeKey), platform, layout, std::move(rows));
 }
 
-std::int32_t RunOfAlarmKey(std::string_view rowKey) {
-  constexpr std::int32_t kBehindOwner = 4;
-  constexpr std::int32_t kBehindDay = 5;
-  const std::int32_t field = util::Identifiant(rowKey, 2) == util::kAlarmDayPrefix ? kBehindDay : kBehindOwner;
-  return util::Identifiant(rowKey, field).empty() ? 0 : util::IdentifiantNumber(rowKey, field);
+std::string RunKeyOfAlarm(std::string_view rowKey) {
+  constexpr std::size_t kOwnerFields = 3;  // the alarm, and a node of two fields
+  const std::size_t before = kOwnerFields + (util::Identifiant(rowKey, 2) == util::kAlarmDayPrefix ? 1 : 0);
+  const std::vector<std::string_view> fields = util::SplitKey(rowKey);
+  if (fields.size() <= before) return {};
+  std::string key(util::kProcessPrefix);
+  for (std::size_t i = before; i < fields.size(); ++i) key.append(util::kKeySeparator).append(fields[i]);
+  return key;
 }
 
 }  // namespace quorvel::list

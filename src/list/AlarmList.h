@@ -20,12 +20,13 @@ struct AlarmLayout {
 Headers AlarmListHeaders(AlarmLayout layout);
 
 // A row for each row of GetAlarms or GetAlarmsByDay that `choice` takes, in their order; none when it takes none. Its
-// key is the alarm's identifier, "|", `nodeKey`; where a run raised the alarm, "|" and the run follow. Active alarms
-// stand out. Error 9 when a column lacks rows.
+// key is the alarm's identifier, "|", `nodeKey`; where a run raised the alarm that is still there, its process, flag
+// and number follow. Active alarms stand out. Error 9 when a column lacks rows.
 Rows AlarmListRows(const datasource::AlarmsLogRecords& records, std::int32_t count, std::string_view nodeKey,
                    const Platform& platform, AlarmLayout layout, const AlarmChoice& choice);
 
-// The run that raised the alarm of a row, by the row's key; 0 = none. Errors 13 and 6 for a field that is no number.
-std::int32_t RunOfAlarmKey(std::string_view rowKey);
+// The key that the run which raised the alarm of a row has in the tree by process, by the row's key: with it as p_Key a
+// host shows the alarm's context. "" where there is none.
+std::string RunKeyOfAlarm(std::string_view rowKey);
 
 }  // namespace quorvel::list

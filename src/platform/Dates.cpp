@@ -154,15 +154,18 @@ std::string_view FormatFixedDateTime(DateValue date, DateTimeBuffer& buffer) {
   if (!civil) return {};
   // Written digit by digit: a list formats two dates for every row that it shows or copies.
   std::string_view("0000-00-00 00:00:00").copy(buffer.data(), buffer.size());
-  const auto put = [&buffer](std::size_t last, unsigned value) {
-    for (; value > 0; value /= 10) buffer[last--] = static_cast<char>('0' + value % 10);
+  const auto put = [&buffer](std::size_t first, unsigned value) {
+    buffer[first] = static_cast<char>('0' + value / 10);
+    buffer[first + 1] = static_cast<char>('0' + value % 10);
   };
-  put(3, static_cast<unsigned>(civil->year));
-  put(6, civil->month);
-  put(9, civil->day);
-  put(12, static_cast<unsigned>(civil->hour));
-  put(15, static_cast<unsigned>(civil->minute));
-  put(18, static_cast<unsigned>(civil->second));
+  const auto year = static_cast<unsigned>(civil->year);
+  put(0, year / 100);
+  put(2, year % 100);
+  put(5, civil->month);
+  put(8, civil->day);
+  put(11, static_cast<unsigned>(civil->hour));
+  put(14, static_cast<unsigned>(civil->minute));
+  put(17, static_cast<unsigned>(civil->second));
   return {buffer.data(), buffer.size()};
 }
 

@@ -7,6 +7,7 @@
 
 #include "datasource/ErrorsProcess.h"
 #include "platform/Error.h"
+#include "util/ClipboardText.h"
 
 namespace quorvel::util {
 namespace {
@@ -20,25 +21,6 @@ std::size_t FindTextually(std::string_view text, std::string_view wanted, std::s
   const auto found =
       std::search(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), wanted.begin(), wanted.end(), same);
   return found == text.end() ? std::string_view::npos : static_cast<std::size_t>(found - text.begin());
-}
-
-std::string SelectedRowsText(const widgets::ListView& list) {
-  std::string text;
-  for (const widgets::ColumnHeader& header : list.headers()) {
-    if (&header != &list.headers().front()) text.push_back('\t');
-    text.append(header.caption);
-  }
-  text.append("\r\n");
-  for (const widgets::RowRange range : list.Selection().ranges()) {
-    for (std::size_t row = range.first; row < range.last; ++row) {
-      for (std::size_t column = 0; column < list.headers().size(); ++column) {
-        if (column > 0) text.push_back('\t');
-        list.AppendCell(row, column, text);
-      }
-      text.append("\r\n");
-    }
-  }
-  return text;
 }
 
 }  // namespace

@@ -28,8 +28,8 @@ bool IsKeyNode(std::span<const std::string_view> parts, std::span<const std::str
 // The field at `position` as a 32-bit number. Error 13 when it is missing or no whole number, 6 when it does not fit.
 std::int32_t IdentifiantNumber(std::string_view key, std::int32_t position);
 
-// Replaces the clipboard with the header captions and the selected rows: cells parted by tabs, lines ended by carriage
-// return and line feed. Without selected rows the header line stands alone. Errors are those of the clipboard.
+// Replaces the clipboard with the header captions and the selected rows, see ClipboardText.h. Without selected rows the
+// header line stands alone. Errors are those of the clipboard.
 void m_CopyListView(Platform& platform, const widgets::ListView& list);
 
 }  // namespace quorvel::util

@@ -28,13 +28,13 @@ void CheckGetAlarms(Installation& at) {
     source->GetAlarms(at.Connection(), alarm, 0, status);
     return Rows("GetAlarms", *source);
   };
-  EXPECT_EQ(ask(-1), R"(603|0||46346.75|1|5|Server|trap|0||0|0||
-602|1|alpha|46346|3|0|alpha|disk full|-1|ADM\eve|46346.25|0||
-601|1|alpha|46345.5|2|1|server|mail sent|0||0|100|Deploy|
-605|2|Beta|46347|1|0|Beta|back|0||0|0||
-604|2|Beta|0|0|9|||1||0|0||
+  EXPECT_EQ(ask(-1), R"(603|0||46346.75|1|5|Server|trap|0||0|0||0|0|
+602|1|alpha|46346|3|0|alpha|disk full|-1|ADM\eve|46346.25|0||0|0|
+601|1|alpha|46345.5|2|1|server|mail sent|0||0|100|Deploy|11|0|
+605|2|Beta|46347|1|0|Beta|back|0||0|0||0|0|
+604|2|Beta|0|0|9|||1||0|0||0|0|
 )");
-  EXPECT_EQ(ask(603), "603|0||46346.75|1|5|Server|trap|0||0|0||\n");
+  EXPECT_EQ(ask(603), "603|0||46346.75|1|5|Server|trap|0||0|0||0|0|\n");
   EXPECT_EQ(status, 0);
   EXPECT_EQ(ask(999), "");
   EXPECT_EQ(status, 1);
@@ -51,8 +51,8 @@ void CheckGetAlarmsByDay(Installation& at) {
     return All(source->Records().lngAlarmId);
   };
   EXPECT_THAT(ask(46346), ElementsAre(603, 602));
-  EXPECT_EQ(Rows("GetAlarmsByDay", *source), R"(603|0||46346.75|1|5|Server|trap|0||0|0||
-602|1|alpha|46346|3|0|alpha|disk full|-1|ADM\eve|46346.25|0||
+  EXPECT_EQ(Rows("GetAlarmsByDay", *source), R"(603|0||46346.75|1|5|Server|trap|0||0|0||0|0|
+602|1|alpha|46346|3|0|alpha|disk full|-1|ADM\eve|46346.25|0||0|0|
 )");
   EXPECT_THAT(ask(46346.875), ElementsAre(603, 602)) << "any time of the day names it";
   EXPECT_THAT(ask(46347), ElementsAre(605));

@@ -36,7 +36,7 @@ TEST_F(AlarmListTest, OfADayTellsWhoAcknowledgedAndWhichRunRaisedIt) {
   const Rows rows = ListOf("LOGALRM|7|2026/11/20", layout, {});
   ASSERT_EQ(rows->Count(), 4U);
   EXPECT_EQ(RowText(rows, 0, headers),
-            "!AlarmFromStation 1|LOGALRM|7|2026/11/20|345: "
+            "!AlarmFromStation 1|LOGALRM|7|2026/11/20|12|1|345: "
             "Alarm 1, 2026-11-20 08:00:00, 3, Station, Prices, 345, Active, , ");
   EXPECT_EQ(RowText(rows, 1, headers),
             "AlarmActionFileFromServer 2|LOGALRM|7|2026/11/20: "
@@ -62,10 +62,10 @@ TEST_F(AlarmListTest, OfSeveralOwnersShowsThoseThatWereChosen) {
 }
 
 TEST_F(AlarmListTest, ARowsKeyLeadsToItsRun) {
-  EXPECT_EQ(RunOfAlarmKey("1|LOGALRM|7|2026/11/20|345"), 345);
-  EXPECT_EQ(RunOfAlarmKey("1|LOGALRM|7|2026/11/20"), 0);
-  EXPECT_EQ(RunOfAlarmKey("1|LOGAALL|-1|345"), 345);
-  EXPECT_EQ(RunOfAlarmKey("1|LOGA1USR|7"), 0);
+  EXPECT_EQ(RunKeyOfAlarm("1|LOGALRM|7|2026/11/20|12|1|345"), "LPROC|12|1|345");
+  EXPECT_EQ(RunKeyOfAlarm("1|LOGALRM|7|2026/11/20"), "");
+  EXPECT_EQ(RunKeyOfAlarm("1|LOGAALL|-1|12|0|345"), "LPROC|12|0|345");
+  EXPECT_EQ(RunKeyOfAlarm("1|LOGA1USR|7"), "");
 }
 
 }  // namespace

@@ -39,6 +39,8 @@ inline datasource::AlarmsLogRecords AlarmRecords(const std::vector<AlarmRow>& al
   rows.lngAction = numbers(&AlarmRow::action);
   rows.bAcknowledged = numbers(&AlarmRow::acknowledged);
   rows.lngProcessLogId = numbers(&AlarmRow::run);
+  rows.lngProcessId = MakeColumn(column([](const AlarmRow& a) { return a.run == 0 ? 0 : 12; }));
+  rows.bRunOnStation = MakeColumn(column([](const AlarmRow& a) { return std::int16_t(a.run % 2); }));
   rows.dtAcknowledged = MakeColumn(column([](const AlarmRow& a) {
     return a.acknowledged == 0 ? DateValue{0} : DateFromCivil({2026, 11, 21, 0, 0, 0});
   }));

@@ -36,7 +36,8 @@ TEST(UserTree, StationsAndProcessesShowTheWorstOfTheirRows) {
       .Station(30, 2, 9, StationRows::kInProgress)
       .Station(30, 1, 9, StationRows::kInProgress);
   widgets::TreeView tree("tvMotherList");
-  AppendUserNodes(PartsOf(stations, {"", "", "", "", "", "", "", "", "Waiting com", ""}), stations.count(), "0123", tree);
+  AppendUserNodes(PartsOf(stations, {"", "", "", "", "", "", "", "", "Waiting com", ""}), stations.count(), "0123",
+                  tree);
   EXPECT_EQ(test::TreeText(tree),
             "Without population (Lyon) [LUSR|0] User_Ok\n"
             "  Prices [LUSR|0|12] ProcessOk +\n"

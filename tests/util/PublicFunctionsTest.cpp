@@ -94,5 +94,30 @@ TEST(CopyListView, CopiesTheHeaderAndTheSelectedRowsAlone) {
   EXPECT_EQ(platform.clipboard, "Name\tReport\tStatus\r\na0\t\ta2\r\nc0\t\tc2\r\n");
 }
 
+class HostileRows final : public PlainRows {
+ public:
+  std::size_t Count() const override { return 4; }
+  void AppendCell(std::size_t row, std::size_t column, std::string& out) const override {
+    constexpr std::string_view kCells[4][3] = {
+        {"a\tb", "", "say \"no\""}, {"one\r\ntwo", "\"x\" y", "z"}, {"7\"", "\"", "|"}, {"\n", "it's", "\t"}};
+    out += kCells[row][column];
+  }
+};
+
+TEST(CopyListView, CellsThatWouldBreakRowsAreQuoted) {
+  test::RecordingPlatform platform;
+  widgets::ListView list("lvMotherList");
+  list.SetHeaders({{.caption = "A"}, {.caption = "B"}, {.caption = "C"}});
+  list.SetRows(std::make_shared<HostileRows>());
+  list.SetSelection(widgets::RowRanges(widgets::RowRange{0, 4}));
+  m_CopyListView(platform, list);
+  EXPECT_EQ(platform.clipboard,
+            "A\tB\tC\r\n"
+            "\"a\tb\"\t\tsay \"no\"\r\n"
+            "\"one\r\ntwo\"\t\"\"\"x\"\" y\"\tz\r\n"
+            "7\"\t\"\"\"\"\t|\r\n"
+            "\"\n\"\tit's\t\"\t\"\r\n");
+}
+
 }  // namespace
 }  // namespace quorvel::util

@@ -7,7 +7,7 @@ INSERT INTO header (list, text) VALUES
 INSERT INTO shown
 SELECT n.number, row_number() OVER (PARTITION BY n.number ORDER BY raised_date DESC, r.id DESC), active,
        iif(triggered = '', 'Alarm' || sender || iif(active, '', 'IsAcquitted'), 'AlarmAction' || triggered || sender),
-       r.id || '|' || n.key || iif(r.run <> 0, '|' || r.run, ''),
+       r.id || '|' || n.key || run_fields,
        iif(n.list = 'alarms of all', owner || '¦', '') ||
          printf('%s¦%s¦%s¦%s¦%s¦%s¦%s', text, raised_text, severity, origin, iif(active, 'Active', 'Acknowledged'),
                 acknowledged_by, acknowledged_text)

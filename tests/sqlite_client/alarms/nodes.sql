@@ -1,6 +1,9 @@
 -- Nodes of the alarms: all owners together, each owner, and the days of both.
 CREATE TEMP TABLE raised AS
-SELECT a.alarm_id AS id, owner_id, raised_date, severity, text, origin, process_run_id AS run, acknowledged_by,
+SELECT a.alarm_id AS id, owner_id, raised_date, severity, text, origin, acknowledged_by,
+       -- A run that is gone leads nowhere.
+       ifnull((SELECT printf('|%d|%d|%d', process_id, on_station <> 0, process_run_id) FROM process_run
+               WHERE process_run_id = a.process_run_id), '') AS run_fields,
        a.acknowledged = 0 AS active,
        'From' || iif(origin = 'Server', 'Server', 'Station') AS sender,
        CASE action WHEN 1 THEN 'Mail' WHEN 2 THEN 'Process' WHEN 3 THEN 'File' WHEN 4 THEN 'Program'
