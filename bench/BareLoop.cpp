@@ -32,7 +32,9 @@ double BareLoop::Run(std::string_view sql, std::initializer_list<Parameter> para
   std::int32_t count = 0;
   const double seconds = Seconds([&] {
     hub::Statement statement = database_->Prepare(sql);
-    for (const Parameter& parameter : parameters) statement.Bind(parameter.name, parameter.value);
+    for (const Parameter& parameter : parameters) {
+      std::visit([&](const auto& value) { statement.Bind(parameter.name, value); }, parameter.value);
+    }
     sqlite3_stmt* const each = statement.handle();
     for (; sqlite3_step(each) == SQLITE_ROW; ++count) {
       std::int64_t read = 0;

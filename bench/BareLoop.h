@@ -1,10 +1,12 @@
 // The least that reading a query can cost: a loop of sqlite3_step over its statement.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <initializer_list>
 #include <memory>
 #include <string_view>
+#include <variant>
 
 #include "hub/sqlite/Database.h"
 
@@ -17,7 +19,7 @@ class BareLoop {
 
   struct Parameter {
     const char* name;
-    double value;
+    std::variant<std::int32_t, double, std::string_view> value;
   };
   // Seconds to prepare the statement, go through its rows and read and discard every column. `types` has a letter for
   // each result column: i integer, d double, t text with its length. Raises error 5 when there are not `rows` rows.

@@ -11,6 +11,7 @@
 #include "platform/Dates.h"
 #include "qt/ListPane.h"
 #include "qt/TreePane.h"
+#include "util/WholeTree.h"
 #include "widgets/ListView.h"
 #include "widgets/TreeView.h"
 
@@ -197,6 +198,50 @@ double FillTreeVectors(Shape shape) {
   });
 }
 
+// Processes that have 99 runs each, with state groups below.
+void FillClosed(widgets::TreeView& tree, int runs) {
+  constexpr int kRunsOfProcess = 99;
+  NodeId process = NodeId::kNone;
+  tree.InBatch([&] {
+    for (int run = 0; run < runs; ++run) {
+      if (run % kRunsOfProcess == 0) process = tree.Add(NodeId::kNone, "LPROC", "Nightly price update", "Process");
+      const NodeId node = tree.Add(process, "LPROC|12", "2026-11-20 23:05:07 (Batch No.)", "ProcessOk");
+      for (int group = 1; group <= kGroupsOfRun; ++group) tree.Add(node, "LPROC|12|1", "OK : 95%", "User_Ok");
+    }
+  });
+}
+
+// As they are opened again after a refresh: the runs, then their process.
+void OpenOneByOne(widgets::TreeView& tree) {
+  for (const NodeId process : tree.Children(NodeId::kNone)) {
+    for (const NodeId run : tree.Children(process)) tree.SetExpanded(run, true);
+    tree.SetExpanded(process, true);
+  }
+}
+
+// Seconds for each run whose node is opened, to the painted picture.
+double OpenNodes(void (*open)(widgets::TreeView&), int runs) {
+  widgets::TreeView tree("tvMotherList");
+  qt::TreePane pane(tree, {[](NodeId) {}, [](NodeId) {}, [](NodeId) {}});
+  PaintCounter paints;
+  FillClosed(tree, runs);
+  ShowInUse(pane, paints);
+  return Seconds([&] {
+           open(tree);
+           PumpUntilPainted(paints);
+         }) /
+         runs;
+}
+
+// Many nodes at once cost no more each than a few.
+bool MeasureOpening(const char* what, void (*open)(widgets::TreeView&)) {
+  constexpr int kFew = 2'000;
+  constexpr int kMany = 20'000;
+  return bench::Report(what,
+                       bench::Compare([=] { return OpenNodes(open, kMany); }, [=] { return OpenNodes(open, kFew); }),
+                       kLimit, {1e6, "us"});
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -209,6 +254,8 @@ int main(int argc, char** argv) {
   kept &= bench::Report("125,000 nodes into the tree, 200 roots, painted / into vectors",
                         compareTrees(Shape::kRunsUnderProcesses), kLimit);
   kept &= bench::Report("the same, 25,000 roots, painted / into vectors", compareTrees(Shape::kRunsAtRoot), kLimit);
+  kept &= MeasureOpening("all nodes opened, each of 20,000 / each of 2,000", util::ExpandAll);
+  kept &= MeasureOpening("nodes opened one by one, each of 20,000 / each of 2,000", OpenOneByOne);
   constexpr bench::Unit kTimes{1, "x "};
   kept &= bench::Report("paintings of one fill of the list / 1", {static_cast<double>(g_listRepaints), 1}, 1, kTimes);
   kept &= bench::Report("paintings of one fill of the tree / 1", {static_cast<double>(g_treeRepaints), 1}, 1, kTimes);

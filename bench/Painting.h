@@ -5,6 +5,9 @@
 #include <QEvent>
 #include <QObject>
 #include <QWidget>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
 
 namespace quorvel::bench {
 
@@ -17,8 +20,16 @@ class PaintCounter : public QObject {
   int count = 0;
 };
 
+// Where nothing changes nothing is painted: then the benchmark asks for the wrong thing, and ends.
 inline void PumpUntilPainted(const PaintCounter& paints) {
-  while (paints.count == 0) QApplication::processEvents();
+  constexpr std::chrono::seconds kPatience{20};
+  const auto start = std::chrono::steady_clock::now();
+  while (paints.count == 0) {
+    QApplication::processEvents();
+    if (std::chrono::steady_clock::now() - start < kPatience) continue;
+    std::fprintf(stderr, "Nothing was painted\n");
+    std::exit(2);
+  }
   QApplication::processEvents();
 }
 

@@ -117,7 +117,9 @@ void FillTable(const list::Rows& rows, QTableWidget& table) {
 void ComparePeersOfTree(const datasource::ProcessLogRecords& rows, std::int32_t count) {
   BenchPlatform platform;
   datasource::ErrorsProcess errors(platform);
-  const auto append = [&](widgets::TreeView& tree) { tree::AppendProcessNodes(rows, count, "0123", platform, errors, tree); };
+  const auto append = [&](widgets::TreeView& tree) {
+    tree::AppendProcessNodes(rows, count, "0123", platform, errors, tree);
+  };
   widgets::TreeView finished("tvMotherList");
   append(finished);
   TreePeers peers(finished);

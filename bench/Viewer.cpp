@@ -1,5 +1,6 @@
 #include "Viewer.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -41,6 +42,34 @@ double Viewer::ShowProcesses() {
 
 double Viewer::ShowUsers() {
   return UntilPainted(treePaints_, [&] { control().m_GetLogByUser(); });
+}
+
+double Viewer::ShowConnections(bool byDay) {
+  control().controls().chkGroupByDay.SetChecked(byDay);
+  return UntilPainted(treePaints_, [&] { control().m_GetLogByCommunication(); });
+}
+
+double Viewer::ShowAlarms() {
+  return UntilPainted(treePaints_, [&] { control().m_GetLogByAlarms(); });
+}
+
+double Viewer::ShowBackups() {
+  return UntilPainted(treePaints_, [&] { control().m_GetLogByBackup(); });
+}
+
+double Viewer::ShowImport(std::int32_t import) {
+  std::int32_t view = 0;
+  std::int32_t passed = 0;
+  return UntilPainted(treePaints_, [&] { control().m_GetLogByImports(view, import, passed); });
+}
+
+// Only its tab leads to it.
+double Viewer::ShowSystemLog() {
+  widgets::TabStrip& tabs = control().controls().sstProcessLog;
+  const auto system = std::ranges::find(tabs.tabs(), "System", &widgets::Tab::caption);
+  tabs.SetCurrent(static_cast<std::size_t>(system - tabs.tabs().begin()));
+  StateFilter state = StateFilter::kAll;
+  return UntilPainted(listPaints_, [&] { control().m_GetLogAll(state); });
 }
 
 double Viewer::Open(NodeId node) {

@@ -1,6 +1,7 @@
 // The history viewer as a user has it, off-screen: the real control, hub and Qt front end on a history.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string_view>
@@ -34,6 +35,13 @@ class Viewer {
   // Build the tree of all runs, by process or by station.
   double ShowProcesses();
   double ShowUsers();
+  // Build the other views, each with the list of what it selects first.
+  double ShowConnections(bool byDay);
+  double ShowAlarms();
+  double ShowBackups();
+  double ShowImport(std::int32_t import);
+  // Fills the list alone.
+  double ShowSystemLog();
 
   // By the gestures of the keyboard: opening a node by its expander, going to a node.
   double Open(widgets::NodeId node);

@@ -26,7 +26,8 @@ class ConnectionRows final : public RecordRows<CommandLogRecords> {
       : RecordRows(records, count, std::move(nodeKey), platform), now_(now) {}
 
   void AppendKey(std::size_t row, std::string& out) const override {
-    AppendConnectionKey(records(), row, nodeKey(), out);
+    AppendDayKey(records().dtCommunicationDate[row], nodeKey(), out);
+    AppendConnectionKey(records(), row, {}, out);
   }
 
   CellValue CellOf(std::size_t row, std::size_t column) const override {
@@ -72,13 +73,15 @@ std::string_view DirectionName(const CommandLogRecords& rows, std::size_t row) {
   return rows.bFromStation[row] != 0 ? "From station" : "To station";
 }
 
-void AppendConnectionKey(const CommandLogRecords& rows, std::size_t row, std::string_view parentKey, std::string& out) {
-  constexpr std::int32_t kDayField = 3;
+void AppendDayKey(DateValue date, std::string_view parentKey, std::string& out) {
+  constexpr std::ptrdiff_t kSeparatorsOfDay = 2;
   out.append(parentKey);
-  if (util::Identifiant(parentKey, kDayField).empty()) {
-    out.append(util::kKeySeparator).append(util::FieldOfDate(rows.dtCommunicationDate[row], util::DateField::kDay));
-  }
-  out.append(util::kKeySeparator).append(std::to_string(rows.lngCommunicationId[row]));
+  if (std::ranges::count(parentKey, util::kKeySeparator.front()) >= kSeparatorsOfDay) return;
+  out.append(util::kKeySeparator).append(util::FieldOfDate(date, util::DateField::kDay));
+}
+
+void AppendConnectionKey(const CommandLogRecords& rows, std::size_t row, std::string_view dayKey, std::string& out) {
+  out.append(dayKey).append(util::kKeySeparator).append(std::to_string(rows.lngCommunicationId[row]));
 }
 
 // A connection is known by when it was, as the tree shows it, so that comes first.

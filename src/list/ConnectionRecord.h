@@ -16,9 +16,11 @@ Classified ClassifyConnection(const datasource::CommandLogRecords& rows, std::si
 // Who called whom; lives forever.
 std::string_view DirectionName(const datasource::CommandLogRecords& rows, std::size_t row);
 
-// Appends the key of a connection's node. `parentKey` is that of its month or of its day, which the key names in any
-// case.
-void AppendConnectionKey(const datasource::CommandLogRecords& rows, std::size_t row, std::string_view parentKey,
+// Appends the key of the day that a connection of `date` belongs to, where `parentKey` is that of its month or its day.
+void AppendDayKey(DateValue date, std::string_view parentKey, std::string& out);
+
+// Appends the key of a connection's node, whose day has the key `dayKey`.
+void AppendConnectionKey(const datasource::CommandLogRecords& rows, std::size_t row, std::string_view dayKey,
                          std::string& out);
 
 }  // namespace quorvel::list

@@ -86,6 +86,28 @@ class MonthBuilder {
   widgets::TreeView& tree_;
 };
 
+// The keys of days. Connections of one day stand together, so the last one is kept.
+class DayKeys {
+ public:
+  explicit DayKeys(std::string_view parentKey) : parentKey_(parentKey) {}
+
+  const std::string& Of(DateValue date) {
+    const DateValue day = DatePart(date);
+    if (day == day_ && day != kNoDay) return key_;
+    day_ = day;
+    key_.clear();
+    list::AppendDayKey(date, parentKey_, key_);
+    return key_;
+  }
+
+ private:
+  static constexpr DateValue kNoDay = 0;  // also what a date that cannot be shown has
+
+  std::string_view parentKey_;
+  DateValue day_ = kNoDay;
+  std::string key_;
+};
+
 }  // namespace
 
 void AppendMonthNodes(const DayAnswer& days, const DayAnswer& failedDays, bool byDay, const Platform& platform,
@@ -126,13 +148,14 @@ void AppendConnectionNodes(const datasource::CommandLogRecords& rows, std::int32
   const std::string above(tree.Key(parent));
   const bool underDay = !util::Identifiant(above, kDayFieldPosition).empty();
   tree.InBatch([&] {
+    DayKeys days(above);
     std::string key;
+    std::string text;
     for (std::size_t row = 0; row < rowCount; ++row) {
       const DateValue start = rows.dtCommunicationDate[row];
       key.clear();
-      list::AppendConnectionKey(rows, row, above, key);
-      std::string text =
-          underDay ? util::TimeText(start) : util::strFormatDateTime(platform, start, util::kDateAndTime);
+      list::AppendConnectionKey(rows, row, days.Of(start), key);
+      text.assign(underDay ? util::TimeText(start) : util::strFormatDateTime(platform, start, util::kDateAndTime));
       text.append(" ").append(list::NamedStation(rows.strUserName[row]));
       text.append(" : ").append(list::DirectionName(rows, row));
       tree.Add(parent, key, text, list::ClassifyConnection(rows, row).icon);

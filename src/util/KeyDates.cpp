@@ -25,7 +25,8 @@ constexpr FieldLength kFieldLengths[] = {
 }  // namespace
 
 std::string FieldOfDate(DateValue date, DateField field) {
-  std::string text = FormatFixedDate(date).substr(0, static_cast<std::size_t>(field));
+  DateTimeBuffer buffer;
+  std::string text(FormatFixedDateTime(date, buffer).substr(0, static_cast<std::size_t>(field)));
   std::ranges::replace(text, '-', '/');
   return text;
 }
@@ -46,8 +47,9 @@ bool HaveSameField(DateValue a, DateValue b, DateField field) {
 }
 
 std::string TimeText(DateValue date) {
-  std::string text = FormatFixedDateTime(date);
-  return text.erase(0, std::min(text.size(), text.find(' ') + 1));
+  DateTimeBuffer buffer;
+  const std::string_view text = FormatFixedDateTime(date, buffer);
+  return std::string(text.substr(std::min(text.size(), text.find(' ') + 1)));
 }
 
 Period PeriodOfField(std::string_view field) {
