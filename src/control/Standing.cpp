@@ -172,7 +172,7 @@ ListStanding StandingIn(const ListView& list) {
   places.insert(places.end(), tops.begin(), tops.end());
   if (list.SelectedItem()) places.push_back(*list.SelectedItem());
   std::ranges::sort(places);
-  places.erase(std::ranges::unique(places).begin(), places.end());
+  places.erase(std::unique(places.begin(), places.end()), places.end());
   standing.rows = Remember(list, places);
   standing.item = IndexIn(places, list.SelectedItem());
   for (const std::size_t row : tops) standing.tops.push_back(*IndexIn(places, row));
