@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "datasource/AlarmsLog.h"
 #include "datasource/CommandLog.h"
@@ -63,6 +64,10 @@ std::int32_t RecordHub::OpenConnection(std::string_view url) {
 
 void RecordHub::CloseConnection(std::int32_t connection) {
   connections_->Close(connection);
+}
+
+void RecordHub::SetProgress(ProgressCallback callback, std::chrono::milliseconds interval) {
+  connections_->SetProgress(std::move(callback), interval);
 }
 
 std::unique_ptr<datasource::RecordSource> RecordHub::Create(std::string_view classIdentifier,

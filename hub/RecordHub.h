@@ -1,6 +1,7 @@
 // The data-access component: opens histories and makes the record sources that read them.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -8,6 +9,7 @@
 
 #include "datasource/RecordSource.h"
 #include "hub/HubError.h"
+#include "hub/Progress.h"
 
 namespace quorvel::hub {
 
@@ -39,6 +41,10 @@ class RecordHub : public datasource::RecordSourceFactory {
 
   // Closes one connection. Error 5 when it is not open.
   void CloseConnection(std::int32_t connection);
+
+  // Whom to tell which query runs: as it begins and while it goes on, but not again before `interval` is over. An empty
+  // `callback` ends it. Holds for each connection, open or to come; see Progress.h for what the callback may do.
+  void SetProgress(ProgressCallback callback, std::chrono::milliseconds interval = std::chrono::milliseconds(100));
 
   // See RecordSourceFactory. A history is a file that this process opens itself: the server's name is only told in
   // errors. Error 429 for a class that this hub does not have.

@@ -53,7 +53,7 @@ Statement PrepareCommunications(const Database& database, std::string_view all, 
 void CommandLogSource::GetCommunications(std::int32_t connection, DateValue dateFrom, DateValue dateTo,
                                          std::int32_t stateCode, std::int32_t userId, std::int32_t failedOnly,
                                          std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetCommunications");
   const std::optional<Period> period = PeriodOf(dateFrom, dateTo, stateCode);
   status = kStatusNoPeriod;
   if (!period) return;
@@ -68,7 +68,7 @@ void CommandLogSource::GetCommunications(std::int32_t connection, DateValue date
 
 void CommandLogSource::GetCommunicationsByMonth(std::int32_t connection, DateValue dateFrom, DateValue dateTo,
                                                 std::int32_t stateCode, std::int32_t userId, std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetCommunicationsByMonth");
   const std::optional<Period> period = PeriodOf(dateFrom, dateTo, stateCode);
   status = kStatusNoPeriod;
   if (!period) return;
@@ -81,7 +81,7 @@ void CommandLogSource::GetCommunicationsByMonth(std::int32_t connection, DateVal
 
 void CommandLogSource::GetCommandLogByCommunication(std::int32_t connection, std::int32_t communicationId,
                                                     std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetCommandLogByCommunication");
   status = kStatusMissing;
   if (!Exists(database, kCommunicationExists, communicationId)) return;
   status = kStatusOk;
@@ -92,7 +92,7 @@ void CommandLogSource::GetCommandLogByCommunication(std::int32_t connection, std
 }
 
 void CommandLogSource::GetCommandLogByStepLog(std::int32_t connection, std::int32_t stepLogId, std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetCommandLogByStepLog");
   status = kStatusMissing;
   if (!Exists(database, kStepExists, stepLogId)) return;
   status = kStatusOk;

@@ -21,7 +21,7 @@ class CurrentSource final : public datasource::Current {
     InTransaction(database, [&] {
       const std::int32_t place = onStation ? 1 : 0;
       result = kStatusMissing;
-      if (!database.Prepare(kRunExistsThere).Bind(":run", processLogId).Bind(":onStation", place).Step()) return;
+      if (!database.Prepare(kRunIsRunningThere).Bind(":run", processLogId).Bind(":onStation", place).Step()) return;
       database.Prepare(kRequestStop).Bind(":run", processLogId).Bind(":onStation", place).Step();
       result = kStatusOk;
     });

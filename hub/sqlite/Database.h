@@ -37,6 +37,12 @@ class Database {
   // Undoes the open transaction; without one, nothing happens.
   void Rollback() const noexcept { sqlite3_exec(handle_.get(), "ROLLBACK", nullptr, nullptr, nullptr); }
 
+  // Calls `work` with `context` each time that a statement has done so many steps; never with a null `work`. A result
+  // other than 0 ends the statement with an error.
+  void CallWhileWorking(int steps, int (*work)(void*), void* context) const {
+    sqlite3_progress_handler(handle_.get(), steps, work, context);
+  }
+
   // Changed rows of the last statement that wrote.
   int changes() const { return sqlite3_changes(handle_.get()); }
 

@@ -52,6 +52,16 @@ inline constexpr std::string_view kFilesOfBackup = R"sql(
     AND (:part = '' OR instr(lower(name), lower(:part)) > 0)
   ORDER BY name, backup_file_id)sql";
 
+// AcknowledgeAlarms and ActivateAlarms; an alarm that is in that state already stays as it is. The date is the local
+// time in days since 1899-12-30.
+inline constexpr std::string_view kAcknowledgeAlarm = R"sql(
+  UPDATE alarm SET acknowledged = -1, acknowledged_by = :user,
+                   acknowledged_date = julianday('now', 'localtime') - 2415018.5
+  WHERE alarm_id = :alarm AND acknowledged = 0)sql";
+inline constexpr std::string_view kActivateAlarm = R"sql(
+  UPDATE alarm SET acknowledged = 0, acknowledged_by = '', acknowledged_date = 0
+  WHERE alarm_id = :alarm AND acknowledged <> 0)sql";
+
 // GetUsersImports. Sorts one row for each name and process of the import.
 inline constexpr std::string_view kNamesOfImport = R"sql(
   SELECT r.name, r.process_id,

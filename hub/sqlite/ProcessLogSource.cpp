@@ -59,7 +59,7 @@ void ProcessLogSource::GetProcessLogs(std::int32_t connection, DateValue dateFro
                                       std::int32_t stateCode, std::int32_t processId, std::int32_t userId,
                                       std::int32_t companyId, std::int32_t /*reserved1*/, std::int32_t /*reserved2*/,
                                       std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetProcessLogs");
   const bool last = stateCode == kLastExecution;
   status = kStatusNoPeriod;
   if (!last && !Period{dateFrom, dateTo}.valid()) return;
@@ -80,7 +80,7 @@ void ProcessLogSource::GetProcessLogs(std::int32_t connection, DateValue dateFro
 void ProcessLogSource::GetProcessLogByProcess(std::int32_t connection, std::int32_t processId,
                                               std::int32_t /*reserved1*/, std::int32_t /*reserved2*/,
                                               std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetProcessLogByProcess");
   status = kStatusMissing;
   if (IsMissing(database, kProcessExists, processId)) return;
   status = kStatusOk;
@@ -89,7 +89,7 @@ void ProcessLogSource::GetProcessLogByProcess(std::int32_t connection, std::int3
 
 void ProcessLogSource::GetProcessLogsByName(std::int32_t connection, DateValue dateFrom, DateValue dateTo,
                                             std::string_view processName, std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetProcessLogsByName");
   status = kStatusNoPeriod;
   if (!Period{dateFrom, dateTo}.valid()) return;
   status = kStatusOk;
@@ -100,9 +100,10 @@ void ProcessLogSource::FillRuns(const Database& database, std::int32_t processId
                                 Period period) {
   Statement rows = PrepareFor(database, kRunsWithCounts, ":process", processId);
   rows.Bind(":name", processName).Bind(":from", period.from).Bind(":to", period.to);
-  count_ = FillColumns(rows, records_.lngProcessLogId, records_.lngProcessId, records_.strProcessName,
-                       records_.dtStartDate, records_.dtEndDate, records_.bRunOnStation, records_.lngOk,
-                       records_.lngNotOk, records_.lngInProgress, records_.lngNotExecuted, records_.lngUnknown);
+  count_ =
+      FillColumns(rows, records_.lngProcessLogId, records_.lngProcessId, records_.strProcessName, records_.dtStartDate,
+                  records_.dtEndDate, records_.bRunOnStation, records_.lngOk, records_.lngNotOk, records_.lngInProgress,
+                  records_.lngNotExecuted, records_.lngUnknown, records_.dtStopRequested);
   datasource::GrowingArray<std::int32_t> stations;
   stations.reserve(static_cast<std::size_t>(count_));
   for (std::size_t run = 0; run < static_cast<std::size_t>(count_); ++run) {
@@ -116,7 +117,7 @@ void ProcessLogSource::GetProcessLogByUser(std::int32_t connection, DateValue se
                                            DateValue stationFrom, DateValue stationTo, std::int32_t stateCode,
                                            std::int32_t processId, std::int32_t userId, std::int32_t companyId,
                                            std::int32_t onStation, std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetProcessLogByUser");
   const Period server = onStation == kOnStation ? Period{stationFrom, stationTo} : Period{serverFrom, serverTo};
   const Period station = onStation == kOnServer ? Period{serverFrom, serverTo} : Period{stationFrom, stationTo};
   const bool last = stateCode == kLastExecution;
@@ -148,7 +149,7 @@ void ProcessLogSource::FillRunsOfStations(Statement& rows) {
 
 void ProcessLogSource::GetProcessLogByTask(std::int32_t connection, std::int32_t processLogId, std::int32_t state,
                                            std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetProcessLogByTask");
   status = kStatusMissing;
   if (!Exists(database, kRunExists, processLogId)) return;
   status = kStatusOk;
@@ -164,7 +165,7 @@ void ProcessLogSource::GetProcessLogByTask(std::int32_t connection, std::int32_t
 void ProcessLogSource::GetProcessLogDetail(std::int32_t connection, std::int32_t processLogId,
                                            std::int32_t /*reserved1*/, std::int32_t /*reserved2*/,
                                            std::int32_t& status) {
-  const Database& database = Begin(connection);
+  const Database& database = Begin(connection, "GetProcessLogDetail");
   detail_ = {};
   status = kStatusMissing;
   Statement run = database.Prepare(kRunDetail);

@@ -18,6 +18,12 @@ inline constexpr std::string_view kStepExists = "SELECT 1 FROM step_log WHERE st
 inline constexpr std::string_view kRunExistsThere =
     "SELECT 1 FROM process_run WHERE process_run_id = :run AND (on_station <> 0) = :onStation";
 
+// StopExecution: the run is there, and a station of it is in progress.
+inline constexpr std::string_view kRunIsRunningThere = R"sql(
+  SELECT 1 FROM process_run r
+  WHERE r.process_run_id = :run AND (r.on_station <> 0) = :onStation
+    AND EXISTS (SELECT 1 FROM station_run s WHERE s.process_run_id = r.process_run_id AND s.state = 3))sql";
+
 // GetProcessLogs. The columns up to the run's start and place repeat for each station of a run.
 inline constexpr std::string_view kStationsOfRuns = R"sql(
   SELECT r.process_run_id, p.process_id, p.name, p.on_server, p.on_station, r.start_date, r.on_station,
@@ -61,7 +67,8 @@ inline constexpr std::string_view kRunsWithCounts = R"sql(
          (SELECT count(*) FROM station_run s WHERE s.process_run_id = r.process_run_id AND s.state = 2),
          (SELECT count(*) FROM station_run s WHERE s.process_run_id = r.process_run_id AND s.state = 3),
          (SELECT count(*) FROM station_run s WHERE s.process_run_id = r.process_run_id AND s.state = 4),
-         (SELECT count(*) FROM station_run s WHERE s.process_run_id = r.process_run_id AND s.state = 5)
+         (SELECT count(*) FROM station_run s WHERE s.process_run_id = r.process_run_id AND s.state = 5),
+         ifnull((SELECT q.requested_date FROM stop_request q WHERE q.process_run_id = r.process_run_id), 0)
   FROM process p
   CROSS JOIN process_run r ON r.process_id = p.process_id
   WHERE (:process = -1 OR p.process_id = :process)

@@ -15,7 +15,7 @@ class SavesSource final : public SourceBase<datasource::Saves, datasource::Saves
 
   void GetSaves(std::int32_t connection, std::int32_t onStation, std::int32_t userId, DateValue dateFrom,
                 DateValue dateTo, std::int32_t& status) override {
-    const Database& database = Begin(connection);
+    const Database& database = Begin(connection, "GetSaves");
     status = kStatusNoPeriod;
     if (!Period{dateFrom, dateTo}.valid()) return;
     status = kStatusOk;
@@ -29,7 +29,7 @@ class SavesSource final : public SourceBase<datasource::Saves, datasource::Saves
 
   void GetSaveFiles(std::int32_t connection, std::int32_t saveId, std::int32_t failedOnly, std::string_view nameFilter,
                     std::int32_t& status) override {
-    const Database& database = Begin(connection);
+    const Database& database = Begin(connection, "GetSaveFiles");
     status = kStatusMissing;
     if (!Exists(database, kBackupExists, saveId)) return;
     status = kStatusOk;

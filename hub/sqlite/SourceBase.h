@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include "hub/sqlite/Connections.h"
@@ -29,15 +30,22 @@ class SourceBase : public Interface {
   const RecordsType& Records() const final { return records_; }
 
  protected:
-  // Drops the last result and gives the connection for the next one.
-  const Database& Begin(std::int32_t connection) {
-    records_ = {};
-    count_ = 0;
+  // Drops the last result and gives the connection for the next one, that of the query of this name.
+  const Database& Begin(std::int32_t connection, std::string_view query) {
+    Release(connection);
+    connections_->progress().Begin(query);
     return connections_->At(connection);
   }
 
+  // The connection for a change, which leaves the last result.
+  const Database& At(std::int32_t connection) const { return connections_->At(connection); }
+
   // What each release does.
-  void Release(std::int32_t connection) { static_cast<void>(Begin(connection)); }
+  void Release(std::int32_t connection) {
+    records_ = {};
+    count_ = 0;
+    static_cast<void>(At(connection));
+  }
 
   RecordsType records_;
   std::int32_t count_ = 0;

@@ -16,7 +16,7 @@ class StepLogSource final : public SourceBase<datasource::StepLog, datasource::S
 
   void GetStepLogByTaskRun(std::int32_t connection, std::int32_t taskId, std::int32_t processLogId, std::int32_t userId,
                            std::int32_t& status) override {
-    const Database& database = Begin(connection);
+    const Database& database = Begin(connection, "GetStepLogByTaskRun");
     const bool exact = taskId != kAnyId && userId != kAnyId;
     const auto prepare = [&](std::string_view sql) {
       Statement rows = database.Prepare(sql);

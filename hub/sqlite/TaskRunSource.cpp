@@ -15,7 +15,7 @@ class TaskRunSource final : public SourceBase<datasource::Quorvel, datasource::T
 
   void GetTaskRunsByProcessLog(std::int32_t connection, std::int32_t processLogId, bool onStation, std::int32_t userId,
                                std::int32_t& status) override {
-    const Database& database = Begin(connection);
+    const Database& database = Begin(connection, "GetTaskRunsByProcessLog");
     status = kStatusMissing;
     Statement run = database.Prepare(kRunExistsThere);
     if (!run.Bind(":run", processLogId).Bind(":onStation", onStation ? 1 : 0).Step()) return;

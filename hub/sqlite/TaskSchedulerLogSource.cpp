@@ -27,7 +27,7 @@ class TaskSchedulerLogSource final
 
   void GetTaskSchedulerLogs(std::int32_t connection, DateValue dateFrom, DateValue dateTo, std::int32_t kind,
                             std::int32_t stateCode, std::int32_t companyId, std::int32_t& status) override {
-    const Database& database = Begin(connection);
+    const Database& database = Begin(connection, "GetTaskSchedulerLogs");
     status = kStatusNoPeriod;
     if (!Period{dateFrom, dateTo}.valid()) return;
     status = kStatusMissing;

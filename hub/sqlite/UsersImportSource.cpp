@@ -14,7 +14,7 @@ class UsersImportSource final : public SourceBase<datasource::UsersImport, datas
   using SourceBase::SourceBase;
 
   void GetUsersImports(std::int32_t connection, std::int32_t importId, std::int32_t& status) override {
-    const Database& database = Begin(connection);
+    const Database& database = Begin(connection, "GetUsersImports");
     status = kStatusMissing;
     if (!Exists(database, kImportExists, importId)) return;
     status = kStatusOk;
@@ -27,7 +27,7 @@ class UsersImportSource final : public SourceBase<datasource::UsersImport, datas
 
   void GetUsersImportByProcess(std::int32_t connection, std::int32_t importId, std::string_view name,
                                std::int32_t processId, std::int32_t importLogId, std::int32_t& status) override {
-    const Database& database = Begin(connection);
+    const Database& database = Begin(connection, "GetUsersImportByProcess");
     status = kStatusOk;
 
     Statement rows = importLogId != kAnyId ? PrepareFor(database, kRunsOfImport, ":run", importLogId)

@@ -1,50 +1,45 @@
 // The menu commands, as the menus, a host's own menu and the public methods run them.
 #include <algorithm>
 #include <iterator>
+#include <string>
 
 #include "control/Entry.h"
+#include "control/Menus.h"
+#include "list/RowFacts.h"
 #include "util/PublicFunctions.h"
 #include "util/WholeTree.h"
 
 namespace quorvel {
 
-using datasource::Reporting;
-
-// The codes of m_MenuCall.
-struct ucProcessLog::Command {
-  std::int32_t code;
-  std::string_view label;
-  void (ucProcessLog::*run)();  // nullptr: not part of this version
-};
-
-const ucProcessLog::Command* ucProcessLog::CommandOf(std::int32_t code) {
-  static constexpr Command kCommands[] = {
-      {kOpen, "Quorvel: ucProcessLog.mnu_open_Click", nullptr},
-      {6, "Quorvel: ucProcessLog.mnu_copy_Click", &ucProcessLog::mnu_copy_Click},
-      {12, "Quorvel: ucProcessLog.mnu_select_all_Click", &ucProcessLog::mnu_select_all_Click},
-      {13, "Quorvel: ucProcessLog.mnu_open_file_Click", nullptr},
-      {14, "Quorvel: ucProcessLog.mnu_report_Click", nullptr},
-      {15, "Quorvel: ucProcessLog.mnu_stop_execution_Click", nullptr},
-      {20, "Quorvel: ucProcessLog.mnu_Acquitted_Alarms_Click", nullptr},
-      {21, "Quorvel: ucProcessLog.mnu_Activated_Alarms_Click", nullptr},
-      {22, "Quorvel: ucProcessLog.mnu_Goto_Process_Click", nullptr},
-      {23, "Quorvel: ucProcessLog.mnu_popupTV_Expand_all_Click", &ucProcessLog::mnu_popupTV_Expand_all_Click},
-      {24, "Quorvel: ucProcessLog.mnu_popupTV_Collapse_all_Click", &ucProcessLog::mnu_popupTV_Collapse_all_Click},
+ucProcessLog::CommandHandler ucProcessLog::HandlerOf(std::int32_t code) {
+  struct Command {
+    MenuCommand code;
+    CommandHandler handler;
   };
-  const auto* const found = std::ranges::find(kCommands, code, &Command::code);
-  return found == std::end(kCommands) ? nullptr : found;
+  static constexpr Command kCommands[] = {
+      {MenuCommand::kOpen, &ucProcessLog::mnu_open_Click},
+      {MenuCommand::kCopy, &ucProcessLog::mnu_copy_Click},
+      {MenuCommand::kSelectAll, &ucProcessLog::mnu_select_all_Click},
+      {MenuCommand::kOpenFile, &ucProcessLog::mnu_open_file_Click},
+      {MenuCommand::kReport, &ucProcessLog::mnu_report_Click},
+      {MenuCommand::kStopExecution, &ucProcessLog::mnu_stop_execution_Click},
+      {MenuCommand::kAcknowledgeAlarms, &ucProcessLog::mnu_Acquitted_Alarms_Click},
+      {MenuCommand::kActivateAlarms, &ucProcessLog::mnu_Activated_Alarms_Click},
+      {MenuCommand::kGotoProcess, &ucProcessLog::mnu_Goto_Process_Click},
+      {MenuCommand::kExpandAll, &ucProcessLog::mnu_popupTV_Expand_all_Click},
+      {MenuCommand::kCollapseAll, &ucProcessLog::mnu_popupTV_Collapse_all_Click},
+  };
+  const auto* const found = std::ranges::find(kCommands, MenuCommand{code}, &Command::code);
+  return found == std::end(kCommands) ? nullptr : found->handler;
 }
 
 void ucProcessLog::m_MenuCall(std::int32_t& command) {
-  const Command* const found = CommandOf(command);
-  if (found == nullptr) return;
-  if (found->run != nullptr) return (this->*found->run)();
-  Reporting(errors_, found->label, [] { throw NotInThisVersion("This command"); });
+  const CommandHandler handler = HandlerOf(command);
+  if (handler != nullptr) (this->*handler)();
 }
 
 void ucProcessLog::m_Open() {
-  std::int32_t code = kOpen;
-  if (controls_.lvMotherList.SelectedItem()) m_MenuCall(code);
+  if (controls_.lvMotherList.SelectedItem()) mnu_open_Click();
 }
 
 void ucProcessLog::m_Copy() {
@@ -55,10 +50,7 @@ void ucProcessLog::m_SelectAll() {
   mnu_select_all_Click();
 }
 
-void ucProcessLog::m_GetDetail() {
-  datasource::Propagating("Quorvel: ucProcessLog.m_GetDetail", [] { throw NotInThisVersion("The detail"); });
-}
-
+// Hosts that still ask here see every command disabled.
 void ucProcessLog::m_GetMenuState(bool& menuVisible, bool& openEnabled, bool& copyNoteBookEnabled,
                                   bool& openJoinFileVisible, bool& executionReportEnabled, bool& selectAllEnabled,
                                   bool& stopExecutionEnabled, bool& acquittedAlarmEnabled, bool& activatedAlarmEnabled,
@@ -72,6 +64,10 @@ void ucProcessLog::m_GetMenuState(bool& menuVisible, bool& openEnabled, bool& co
   }
 }
 
+void ucProcessLog::mnu_open_Click() {
+  Handle("Quorvel: ucProcessLog.mnu_open_Click", [&] { OpenDetail(); });
+}
+
 void ucProcessLog::mnu_copy_Click() {
   Handle("Quorvel: ucProcessLog.mnu_copy_Click", [&] { util::m_CopyListView(platform_, controls_.lvMotherList); });
 }
@@ -80,11 +76,34 @@ void ucProcessLog::mnu_select_all_Click() {
   Handle("Quorvel: ucProcessLog.mnu_select_all_Click", [&] {
     widgets::ListView& list = controls_.lvMotherList;
     list.SetSelection(widgets::RowRanges(widgets::RowRange{0, list.Count()}), list.SelectedItem());
+    selectionMoved_ = true;
   });
 }
 
+void ucProcessLog::mnu_open_file_Click() {
+  Handle("Quorvel: ucProcessLog.mnu_open_file_Click", [&] { OpenAttachment(); });
+}
+
+void ucProcessLog::OpenAttachment() {
+  const auto row = controls_.lvMotherList.SelectedItem();
+  const std::string name = row ? list::AttachmentOf(controls_.lvMotherList, *row) : std::string();
+  const std::filesystem::path file(std::u8string(name.begin(), name.end()));
+  if (name.empty() || !platform_.FileExists(file)) {
+    return platform_.ShowMessage("File path not found or non-existing file.", datasource::kProductTitle);
+  }
+  try {
+    platform_.OpenFile(file);
+  } catch (const Error&) {
+    // Most often no program is known for files of this kind.
+    platform_.OpenFileWith(file);
+  }
+}
+
 void ucProcessLog::mnu_popupTV_Expand_all_Click() {
-  Handle("Quorvel: ucProcessLog.mnu_popupTV_Expand_all_Click", [&] { util::ExpandAll(controls_.tvMotherList); });
+  Handle("Quorvel: ucProcessLog.mnu_popupTV_Expand_all_Click", [&] {
+    util::ExpandAll(controls_.tvMotherList);
+    LoadAndOpenAll();
+  });
 }
 
 void ucProcessLog::mnu_popupTV_Collapse_all_Click() {

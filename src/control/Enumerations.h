@@ -6,6 +6,9 @@
 
 namespace quorvel {
 
+// The buttons of a mouse, as events have them.
+enum class MouseButton : std::int32_t { kLeft = 1, kRight = 2 };
+
 // How the host opened the viewer (`p_FromType`).
 enum class tlFromType : std::int32_t {
   tlAllOnStation = 0,

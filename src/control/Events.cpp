@@ -51,6 +51,30 @@ void ucProcessLog::tvMotherList_Expand(NodeId node) {
   Handle("Quorvel: ucProcessLog.tvMotherList_Expand", [&] {
     LoadNode(node);
     controls_.tvMotherList.SetExpanded(node, true);
+    Reveal(node);
+  });
+}
+
+void ucProcessLog::Reveal(NodeId node) {
+  const auto children = controls_.tvMotherList.Children(node);
+  revealed_ = node;
+  revealedFrom_ = controls_.tvMotherList.Top();
+  controls_.Timer_ScrollDown_TV.SetEnabled(!children.empty() && !controls_.tvMotherList.IsInSight(children.back()));
+}
+
+void ucProcessLog::Timer_ScrollDown_TV_Timer() {
+  if (!controls_.Timer_ScrollDown_TV.enabled()) return;
+  Reporting(errors_, "Quorvel: ucProcessLog.Timer_ScrollDown_TV_Timer", [&] {
+    widgets::TreeView& tree = controls_.tvMotherList;
+    const auto children = tree.Children(revealed_);
+    const NodeId top = tree.Top();
+    const NodeId first = top == NodeId::kNone ? tree.Child(NodeId::kNone, 0) : top;
+    const bool goesOn = tree.IsExpanded(revealed_) && !children.empty() && !tree.IsInSight(children.back()) &&
+                        first != revealed_ && top == revealedFrom_;
+    if (goesOn) tree.ScrollTo(tree.NextLine(first));
+    revealedFrom_ = tree.Top();
+    // Where there is nothing left to scroll, nothing moved.
+    controls_.Timer_ScrollDown_TV.SetEnabled(goesOn && revealedFrom_ != top);
   });
 }
 
@@ -77,15 +101,7 @@ void ucProcessLog::lvMotherList_ColumnClick(std::size_t column) {
 
 void ucProcessLog::lvMotherList_DblClick() {
   Handle("Quorvel: ucProcessLog.lvMotherList_DblClick", [&] {
-    widgets::TreeView& tree = controls_.tvMotherList;
-    const auto row = controls_.lvMotherList.SelectedItem();
-    if (!row || tree.Selected() == NodeId::kNone) return;
-    const NodeId node = NodeOfRow(tree.Selected(), *row);
-    if (node == NodeId::kNone) return;
-    LoadNode(node);
-    OpenWayTo(node);
-    tree.SetExpanded(node, true);
-    GoTo(node);
+    if (controls_.lvMotherList.SelectedItem()) OpenRow();
   });
 }
 
@@ -94,36 +110,25 @@ void ucProcessLog::lvMotherList_KeyDown(std::int32_t keyCode) {
   if (keyCode == kEnter) lvMotherList_DblClick();
 }
 
-// A subscriber may go, or take another with it, while it hears.
-template <class Event, class... Values>
-void ucProcessLog::Raise(Event event, const Values&... values) {
-  const std::vector<HostEvents*> hosts = subscribers_;
-  for (HostEvents* const host : hosts) {
-    if (std::ranges::find(subscribers_, host) != subscribers_.end()) (host->*event)(values...);
-  }
-}
-
-void ucProcessLog::FocusMoved(std::string_view label, bool& flag, bool has) {
-  Reporting(errors_, label, [&] {
-    flag = has;
-    Raise(&HostEvents::MajMenu);
-  });
+void ucProcessLog::FocusMoved(std::string_view label) {
+  selectionMoved_ = true;
+  TellHost(label);
 }
 
 void ucProcessLog::lvMotherList_GotFocus() {
-  FocusMoved("Quorvel: ucProcessLog.lvMotherList_GotFocus", listHasFocus_, true);
+  FocusMoved("Quorvel: ucProcessLog.lvMotherList_GotFocus");
 }
 
 void ucProcessLog::lvMotherList_LostFocus() {
-  FocusMoved("Quorvel: ucProcessLog.lvMotherList_LostFocus", listHasFocus_, false);
+  FocusMoved("Quorvel: ucProcessLog.lvMotherList_LostFocus");
 }
 
 void ucProcessLog::tvMotherList_GotFocus() {
-  FocusMoved("Quorvel: ucProcessLog.tvMotherList_GotFocus", treeHasFocus_, true);
+  FocusMoved("Quorvel: ucProcessLog.tvMotherList_GotFocus");
 }
 
 void ucProcessLog::tvMotherList_LostFocus() {
-  FocusMoved("Quorvel: ucProcessLog.tvMotherList_LostFocus", treeHasFocus_, false);
+  FocusMoved("Quorvel: ucProcessLog.tvMotherList_LostFocus");
 }
 
 void ucProcessLog::imgSplitter_MouseDown() {

@@ -1,4 +1,5 @@
 // The expanders: what loads the children of a node, once.
+#include <optional>
 #include <utility>
 
 #include "control/Entry.h"
@@ -106,7 +107,8 @@ void ucProcessLog::tvMotherList_ExpandComm(NodeId node) {
 void ucProcessLog::tvMotherList_ExpandCommunications(NodeId node) {
   constexpr std::string_view kLabel = "Quorvel: ucProcessLog.tvMotherList_ExpandCommunications";
   Build(kLabel, [&] {
-    const Hourglass hourglass(platform_);
+    std::optional<Hourglass> hourglass;
+    Propagating(kLabel, [&] { hourglass.emplace(platform_); });
     ExpandDay(node);
   });
 }
@@ -158,6 +160,30 @@ void ucProcessLog::tvMotherList_ExpandBackupLevel5(NodeId node) {
 
 void ucProcessLog::AppendFoldersUnder(NodeId node, const datasource::Answer<datasource::SavesRecords>& files) {
   ReplaceChildren(node, [&] { tree::AppendBackupFolders(files.records, files.count, node, controls_.tvMotherList); });
+}
+
+// Level by level, so that a bound on the work leaves a tree that is open evenly.
+void ucProcessLog::LoadAndOpenAll() {
+  constexpr int kMostLoads = 5'000;
+  widgets::TreeView& tree = controls_.tvMotherList;
+  const auto roots = tree.Children(NodeId::kNone);
+  std::vector<NodeId> nodes(roots.begin(), roots.end());
+  int loads = 0;
+  for (std::size_t i = 0; i < nodes.size(); ++i) {
+    if (tree.HasPlaceholder(nodes[i])) {
+      if (platform_.IsEscapePressed()) return;
+      if (loads++ == kMostLoads) {
+        platform_.ShowMessage(
+            std::to_string(kMostLoads) + " nodes were loaded, and there are more. \"Expand all\" goes on from here.",
+            datasource::kProductTitle);
+        return;
+      }
+      LoadNode(nodes[i]);
+      tree.SetExpanded(nodes[i], true);
+    }
+    const auto children = tree.Children(nodes[i]);
+    nodes.insert(nodes.end(), children.begin(), children.end());
+  }
 }
 
 }  // namespace quorvel

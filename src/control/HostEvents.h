@@ -10,13 +10,13 @@ class HostEvents {
  public:
   virtual ~HostEvents() = default;
 
-  // The tree or the list has got or lost the focus: menus of the host may have changed.
+  // Another node or other rows are selected, or the focus came to tree or list, or left: menus may have changed.
   virtual void MajMenu() {}
   // Never raised; hosts written for it still find it.
   virtual void Update() {}
-  // An execution report is asked for, of the runs in this list.
+  // An execution report is asked for, of the runs in this list: their keys, "LPROC|process|flag|run", parted by ";".
   virtual void PrintReport(const std::string& /*f_strCurrentProcessIdList*/) {}
-  // Alarms were acknowledged or made active again, and the view was built anew.
+  // Alarms were acknowledged or made active again. The view was built anew, unless that failed.
   virtual void UpdateAlarm() {}
   // Never raised, as Update.
   virtual void lvMouseDown() {}

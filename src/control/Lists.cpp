@@ -29,6 +29,8 @@ using util::IdentifiantNumber;
 using widgets::NodeId;
 
 void ucProcessLog::HandleNodeClick(NodeId node) {
+  selectionMoved_ = true;
+  CloseDetail();
   controls_.tvMotherList.Select(node);
   controls_.lvMotherList.SetRows(nullptr);
   try {
@@ -207,11 +209,20 @@ void ucProcessLog::lvMotherList_NodeStep(NodeId node) {
 }
 
 void ucProcessLog::MajStatusBarInfrmMain() {
+  const std::int32_t count = p_ListCount();
+  WriteStatus("Quorvel: ucProcessLog.MajStatusBarInfrmMain",
+              std::to_string(count) + (count > 1 ? " elements" : " element"));
+}
+
+void ucProcessLog::ShowNotice(std::string_view text) {
+  WriteStatus("Quorvel: ucProcessLog.ShowNotice", text);
+}
+
+void ucProcessLog::WriteStatus(std::string_view label, std::string_view text) {
   if (statusBarMissing_) return;
-  datasource::Logging(errors_, "Quorvel: ucProcessLog.MajStatusBarInfrmMain", [&] {
+  datasource::Logging(errors_, label, [&] {
     try {
-      const std::int32_t count = p_ListCount();
-      platform_.SetHostStatusText(std::to_string(count) + (count > 1 ? " elements" : " element"));
+      platform_.SetHostStatusText(text);
     } catch (const Error& error) {
       // A host without the status bar goes into the log once, not at every click.
       statusBarMissing_ = error.number() == static_cast<std::int32_t>(SystemError::kUnsupportedMember);

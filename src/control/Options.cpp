@@ -178,15 +178,13 @@ void MoveGroup(ProcessLogControls& c, bool up) {
 }
 
 void ShowPeriodEnd(ProcessLogControls& c, const Platform& platform) {
-  std::string text;
+  std::optional<DateValue> end;
   try {
-    const DateValue start = AtTimeOf(c.dtpDate.value(), c.dtpHour.value());
-    const DateValue end = AddInterval(start, SelectedUnit(c), PeriodLength(c));
-    text = "to " + util::strFormatDateTime(platform, end, util::kDateAndTime);
+    end = AddInterval(AtTimeOf(c.dtpDate.value(), c.dtpHour.value()), SelectedUnit(c), PeriodLength(c));
   } catch (const Error&) {
-    text = "to ?";  // what is wrong with the period is told when it is used
+    end.reset();  // what is wrong with the period is told when it is used
   }
-  c.lblPeriodEnd.SetText(text);
+  c.lblPeriodEnd.SetText("to " + (end ? util::strFormatDateTime(platform, *end, util::kDateAndTime) : "?"));
 }
 
 void LimitPeriod(ProcessLogControls& c) {

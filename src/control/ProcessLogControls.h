@@ -1,9 +1,11 @@
 // The standard controls that make up the viewer, by name. A front end draws them; the viewer fills them.
 #pragma once
 
+#include "control/Menus.h"
 #include "widgets/Control.h"
 #include "widgets/ItemList.h"
 #include "widgets/ListView.h"
+#include "widgets/Menu.h"
 #include "widgets/Ranges.h"
 #include "widgets/TabStrip.h"
 #include "widgets/TreeView.h"
@@ -44,6 +46,13 @@ struct ProcessLogControls {
   widgets::ListView lvMotherList{"lvMotherList"};
   widgets::Grip imgSplitter{"imgSplitter"};
   widgets::Grip picSplitter{"picSplitter"};
+
+  // Popups over the list and over the tree.
+  widgets::Menu mnu_Popup{"mnu_Popup", "&Popup Task", ListMenuEntries()};
+  widgets::Menu mnu_PopupTV{"mnu_PopupTV", "PopupTV", TreeMenuEntries()};
+
+  // Brings the children of a node that was opened into sight.
+  widgets::Timer Timer_ScrollDown_TV{"Timer_ScrollDown_TV"};
 
   // On the control.
   widgets::ScrollBar HScroll{"HScroll"};

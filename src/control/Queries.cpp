@@ -52,6 +52,13 @@ ucProcessLog::ProcessLogAnswer ucProcessLog::AskStations(std::int32_t run, std::
   return answer;
 }
 
+std::optional<datasource::ProcessLogDetail> ucProcessLog::AskRunDetail(std::int32_t run) {
+  datasource::ProcessLog& source = ProcessLogSource();
+  std::int32_t status = 0;
+  source.GetProcessLogDetail(f_lngConnect, run, kReserved, kReserved, status);
+  return status == 0 ? std::optional(source.Detail()) : std::nullopt;
+}
+
 datasource::Answer<datasource::TaskRunRecords> ucProcessLog::AskTasks(const tree::PartOfRun& part) {
   datasource::Quorvel& source = TaskRunSource();
   std::int32_t status = 0;

@@ -103,21 +103,8 @@ void RestoreRows(const ListStanding& standing, ListView& list) {
   const auto item = placeOf(standing.item);
   list.SetSelection(std::move(selection), item);
   if (list.Count() == 0) return;
-  std::size_t top = 0;
-  for (auto known = standing.tops.rbegin(); known != standing.tops.rend(); ++known) {
-    if (places[*known]) top = *places[*known];
-  }
-  list.ScrollTo({top, standing.left});
-}
-
-// The node below this one as the tree is seen; kNone after the last.
-NodeId NextInSight(const widgets::TreeView& tree, NodeId node) {
-  if (tree.IsExpanded(node) && tree.ChildCount(node) > 0) return tree.Child(node, 0);
-  for (; node != NodeId::kNone; node = tree.Parent(node)) {
-    const auto siblings = tree.Children(tree.Parent(node));
-    if (tree.RowOf(node) + 1 < siblings.size()) return siblings[tree.RowOf(node) + 1];
-  }
-  return NodeId::kNone;
+  const auto top = std::ranges::find_if(standing.tops, [&](std::size_t known) { return places[known].has_value(); });
+  list.ScrollTo({top == standing.tops.end() ? 0 : *places[*top], standing.left});
 }
 
 }  // namespace
@@ -149,7 +136,7 @@ std::vector<FoundNode> FindNodes(const widgets::TreeView& tree, NodeId parent, c
 
 std::vector<tree::Place> PlacesInSight(const widgets::TreeView& tree) {
   std::vector<tree::Place> places;
-  for (NodeId node = tree.Top(); node != NodeId::kNone && places.size() < kInSight; node = NextInSight(tree, node)) {
+  for (NodeId node = tree.Top(); node != NodeId::kNone && places.size() < kInSight; node = tree.NextLine(node)) {
     places.push_back(tree::PlaceOf(tree, node));
   }
   return places;

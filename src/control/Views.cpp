@@ -148,11 +148,10 @@ void ucProcessLog::BuildAgain() {
   BuildView(alarms ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()), StandingNow());
 }
 
-Error ucProcessLog::NotInThisVersion(std::string_view what) {
-  return {SystemError::kActionUnsupported, std::string(what) + " is not part of this version"};
-}
-
 void ucProcessLog::ClearPanes() {
+  selectionMoved_ = true;
+  CloseDetail();
+  controls_.Timer_ScrollDown_TV.SetEnabled(false);
   InitListView();
   controls_.tvMotherList.Clear();
   SetfraListCaption();

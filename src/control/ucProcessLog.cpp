@@ -20,6 +20,9 @@ constexpr widgets::Twips kFirstTreeWidth = 6000;
 constexpr widgets::Twips kFirstWidth = 15000;
 constexpr widgets::Twips kFirstHeight = 9000;
 
+// Fast enough not to wait for, slow enough to see where one is taken.
+constexpr std::int32_t kMillisecondsALine = 30;
+
 constexpr std::size_t kDaysRow = 1;  // of cboDuringUnit
 constexpr std::string_view kDefaultPeriod = "1";
 
@@ -36,25 +39,34 @@ std::optional<std::int32_t> NumberWithin(const std::optional<std::string>& text,
 }  // namespace
 
 ucProcessLog::ucProcessLog(Platform& platform, datasource::RecordSourceFactory& factory)
-    : platform_(platform), factory_(factory), errors_(platform), width_(kFirstWidth), height_(kFirstHeight) {
+    : platform_(platform),
+      factory_(factory),
+      errors_(platform),
+      detail_(platform, errors_, [this] { lvMotherList_SelectionChanged(); }),
+      width_(kFirstWidth),
+      height_(kFirstHeight) {
   datasource::Reporting(errors_, "Quorvel: ucProcessLog.UserControl_Initialize", [&] {
     ProcessLogControls& c = controls_;
     c.imgSplitter.SetBounds({kFirstTreeWidth, 0, 0, 0});
     c.picSplitter.SetVisible(false);
+    c.Timer_ScrollDown_TV.SetEnabled(false);
+    c.Timer_ScrollDown_TV.SetIntervalMilliseconds(kMillisecondsALine);
     LayOut();
     c.sstProcessLog.SetTabs(AllTabs());
     ShowTabs(c.sstProcessLog, f_tlFromType, tabsReduced_, tabChosen_);
     FillOptionTexts(c);
-    const DateValue now = platform_.Now();
-    c.dtpDate.SetValue(DatePart(now));
-    c.dtpHour.SetValue(TimePart(now));
     c.txtDuring.SetText(kDefaultPeriod);
-    ShowPeriodEnd(c, platform_);
     FillStateList(c.cboState, c.sstProcessLog.currentCaption());
     util::SelectStringIn(c.cboState, "Last execution");
     ControlsVisible(static_cast<std::int32_t>(StateFilter::kLastExecution));
     InitListView();
     SetfraListCaption();
+    MajMenu();
+    // Last, what asks others: a clock that fails leaves a viewer that can be used.
+    const DateValue now = platform_.Now();
+    c.dtpDate.SetValue(DatePart(now));
+    c.dtpHour.SetValue(TimePart(now));
+    ShowPeriodEnd(c, platform_);
   });
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,6 +27,7 @@
 #include "datasource/StepLog.h"
 #include "datasource/TaskSchedulerLog.h"
 #include "datasource/UsersImport.h"
+#include "dialogs/dlgLVDetail.h"
 #include "list/AlarmRecord.h"
 #include "list/ListParts.h"
 #include "platform/Platform.h"
@@ -57,6 +59,11 @@ class ucProcessLog {
   // What there is to draw. Front ends write back what the user typed or chose, then call the handler.
   ProcessLogControls& controls() { return controls_; }
   const ProcessLogControls& controls() const { return controls_; }
+  // The dialog that shows one row of the list as a page.
+  dlgLVDetail& detail() { return detail_; }
+  const dlgLVDetail& detail() const { return detail_; }
+  // What the list and the tree let a user do, as both menus show it.
+  const MenuState& menuState() const { return menuState_; }
   // The identifiers of the node selected last, which the next view opens at.
   const tree::NavigationContext& context() const { return context_; }
 
@@ -68,6 +75,8 @@ class ucProcessLog {
   // Whether a request or a gesture is being worked on: another gesture does nothing then, so that a front end shows
   // again what it was made on.
   bool AtWork() const { return f_blnClickNode; }
+  // Calls `body` once that is done, at once when nothing is being worked on. Errors of `body` are shown.
+  void AfterWork(std::function<void()> body);
 
   // Properties.
   widgets::ListItems ListItems() const { return widgets::ListItems(controls_.lvMotherList); }
@@ -137,7 +146,8 @@ class ucProcessLog {
   void m_Open();
   // Replaces the clipboard with the header captions and the selected rows.
   void m_Copy();
-  // Error 445: not part of this version.
+  // Fills the list with the one run that p_IdAppLog names, and shows it as a page in the dialog. A run that does not
+  // exist leaves the list empty. With p_blnShowUserInfo the run's user and station are told too.
   void m_GetDetail();
   // Selects every row of the list.
   void m_SelectAll();
@@ -187,14 +197,31 @@ class ucProcessLog {
   void lvMotherList_DblClick();
   // Enter (13) does what a double click does; other keys are the list's own.
   void lvMotherList_KeyDown(std::int32_t keyCode);
+  // The user selected other rows.
+  void lvMotherList_SelectionChanged();
+  // `row`: under the pointer, nothing = the empty space; or the selected item, for the key that opens menus. The right
+  // button selects that row unless it is selected, then opens mnu_Popup; the left one has selected already.
+  void lvMotherList_MouseDown(MouseButton button, std::optional<std::size_t> row);
+  // The right button goes to the node under the pointer, kNone = the empty space, and opens mnu_PopupTV.
+  void tvMotherList_MouseUp(MouseButton button, widgets::NodeId node);
   void lvMotherList_GotFocus();
   void lvMotherList_LostFocus();
   void tvMotherList_GotFocus();
   void tvMotherList_LostFocus();
+  void mnu_open_Click();
   void mnu_copy_Click();
+  void mnu_open_file_Click();
+  void mnu_report_Click();
   void mnu_select_all_Click();
+  void mnu_stop_execution_Click();
+  void mnu_Acquitted_Alarms_Click();
+  void mnu_Activated_Alarms_Click();
+  void mnu_Goto_Process_Click();
   void mnu_popupTV_Expand_all_Click();
   void mnu_popupTV_Collapse_all_Click();
+  // Scrolls the tree one node down, until the last child of the node that was opened is in sight, that node itself
+  // would leave it, or the user scrolls.
+  void Timer_ScrollDown_TV_Timer();
   void imgSplitter_MouseDown();
   // `x`: the pointer from the left edge of the grip, in twips.
   void imgSplitter_MouseMove(widgets::Twips x);
@@ -203,11 +230,9 @@ class ucProcessLog {
   void VScroll_Change();
 
  private:
-  struct Command;
-  static constexpr std::int32_t kOpen = 2;
-  static const Command* CommandOf(std::int32_t code);
-  // Error 445.
-  static Error NotInThisVersion(std::string_view what);
+  // The handler of a menu command; nullptr when the code names none.
+  using CommandHandler = void (ucProcessLog::*)();
+  static CommandHandler HandlerOf(std::int32_t code);
 
   // Shows the tabs that this host has use for.
   void OfferTabs();
@@ -229,10 +254,37 @@ class ucProcessLog {
   // Clears the headers when they are not those that begin with this caption; tells whether they must be set.
   bool ClearColumnHeaderLV(std::string_view firstCaption);
 
-  // Runs a public method that builds: with the hourglass, passing errors on. Error 5 while another one, or a gesture,
+  // Runs a public method that builds, passing errors on. Error 5 while another one, or a gesture,
   // is being worked on: a component or a host that lets messages through may call back.
   template <class Body>
   void Build(std::string_view label, Body&& body);
+  // Computes the menus for what is selected and where the focus is.
+  void MajMenu();
+  MenuFacts FactsForMenus() const;
+  // Tells the host what happened while the control was at work, when it can be called again. Shows errors.
+  void TellHost(std::string_view label);
+  // Opens the row in the tree, or as a page where no node stands for it.
+  void OpenRow();
+  // Shows the selected row as a page; one without anything to show is told in the host's status bar.
+  void OpenDetail();
+  // Before the list gets other rows: the page of a row that is not there any more says nothing.
+  void CloseDetail();
+  void ShowNotice(std::string_view text);
+  // Writes into the host's status bar. What goes wrong is logged alone.
+  void WriteStatus(std::string_view label, std::string_view text);
+  void OpenAttachment();
+  void LoadAndOpenAll();
+  // The runs of the selected rows, or that of the selected node, each once.
+  std::vector<std::string> RunsToReport() const;
+  std::vector<std::size_t> SelectedRunningRuns() const;
+  // How many of these runs were asked to stop: one that ended since is not.
+  std::size_t StopRuns(const std::vector<std::size_t>& rows);
+  // Acknowledges the selected alarms that are active, or the other way round, where the user may.
+  void ChangeAlarms(list::AlarmMark from);
+  std::vector<std::int32_t> SelectedAlarms(list::AlarmMark mark) const;
+  bool MayChangeAlarms() const;
+  std::string AcknowledgingUser() const;
+
   // Runs a gesture's handler in the same way, showing errors. A gesture that comes in between is not for what it was
   // made on: it does nothing.
   template <class Body>
@@ -286,6 +338,8 @@ class ucProcessLog {
 
   // Expanders: load the children of a node.
   void LoadNode(widgets::NodeId node);
+  // Begins to bring the children of an open node into sight.
+  void Reveal(widgets::NodeId node);
   // Puts what `append` adds in place of the children and the placeholder.
   template <class Append>
   void ReplaceChildren(widgets::NodeId node, Append&& append);
@@ -335,7 +389,7 @@ class ucProcessLog {
   // Fills the list for the selected node again, if any is.
   void ClickSelectedAgain();
   void MoveGroupAs(std::string_view label, bool up);
-  void FocusMoved(std::string_view label, bool& flag, bool has);
+  void FocusMoved(std::string_view label);
   // The period was changed: shows where it ends.
   void PeriodChanged(std::string_view label);
   std::string ConnectionsContextKey();
@@ -347,6 +401,8 @@ class ucProcessLog {
   // Parts of stations in runs, as the tree shown was asked for.
   ProcessLogAnswer AskParts(std::int32_t processId, std::int32_t userId);
   ProcessLogAnswer AskStations(std::int32_t run, std::int32_t state);
+  // Nothing when there is no such run.
+  std::optional<datasource::ProcessLogDetail> AskRunDetail(std::int32_t run);
   datasource::Answer<datasource::TaskRunRecords> AskTasks(const tree::PartOfRun& part);
   datasource::Answer<datasource::StepLogRecords> AskSteps(const tree::TaskOfRun& task);
   using CommandLogAnswer = datasource::Answer<datasource::CommandLogRecords>;
@@ -374,6 +430,7 @@ class ucProcessLog {
   datasource::RecordSourceFactory& factory_;
   datasource::ErrorsProcess errors_;
   ProcessLogControls controls_;
+  dlgLVDetail detail_;
   tree::NavigationContext context_;
 
   // What the tree shown was asked for; properties that are set later wait for the next build.
@@ -399,8 +456,6 @@ class ucProcessLog {
   std::string f_strServerName;
   std::string f_strConsoleLoginUserName;
   std::int32_t f_lngConsoleLoginUserRight = 0;
-  bool listHasFocus_ = false;
-  bool treeHasFocus_ = false;
   bool tabsReduced_ = false;  // by p_TabStripVisible
   // The tab that carries the name of a view in place of its own.
   struct RenamedTab {
@@ -414,9 +469,16 @@ class ucProcessLog {
   std::string processKeyLeft_;          // of the node of a process view that a tab click left last
   std::optional<Standing> toReturnTo_;  // nothing once a build came to its end
   std::vector<HostEvents*> subscribers_;
+  bool selectionMoved_ = false;                // since the host was told last
+  std::vector<std::function<void()>> toTell_;  // to the host, once this control can be called again
+  MenuState menuState_;
+  std::string f_strCurrentProcessIdList;
   Shown shown_;
   bool serverMode_ = true;
   bool labelsRead_ = false;
+  // The node whose children are brought into sight, and the node that stands first while that goes on.
+  widgets::NodeId revealed_ = widgets::NodeId::kNone;
+  widgets::NodeId revealedFrom_ = widgets::NodeId::kNone;
   bool splitterMoving_ = false;
   bool splitterMoved_ = false;
   bool statusBarMissing_ = false;

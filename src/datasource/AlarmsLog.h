@@ -1,6 +1,9 @@
 // Alarms, with their acknowledgement.
 #pragma once
 
+#include <span>
+#include <string_view>
+
 #include "datasource/RecordSource.h"
 
 namespace quorvel::datasource {
@@ -60,6 +63,14 @@ class AlarmsLog : public RecordSource {
 
   // Valid until the next call that is not const.
   virtual const AlarmsLogRecords& Records() const = 0;
+
+  // Marks these alarms as acknowledged, now and by `userName`, which ends at a NUL in it; those that are acknowledged
+  // already keep who did it. All are changed or, by an error, none. Status 1: none of them is there any more.
+  virtual void AcknowledgeAlarms(std::int32_t connection, std::span<const std::int32_t> alarmIds,
+                                 std::string_view userName, std::int32_t& status) = 0;
+  // Makes these alarms active again, in the same way.
+  virtual void ActivateAlarms(std::int32_t connection, std::span<const std::int32_t> alarmIds,
+                              std::int32_t& status) = 0;
 };
 
 }  // namespace quorvel::datasource

@@ -23,9 +23,9 @@ constexpr Names kStationRows[] = {"lngProcessLogId",   "lngProcessId", "strProce
                                   "bProcessOnStation", "dtStartDate",  "bRunOnStation",  "lngUserId",
                                   "bInProgress",       "bResultOk",    "bResultNotOk",   "bResultUnknown",
                                   "bExecuted"};
-constexpr Names kRunRows[] = {"lngProcessLogId", "lngProcessId",  "strProcessName", "dtStartDate",
-                              "dtEndDate",       "bRunOnStation", "lngStations",    "lngOk",
-                              "lngNotOk",        "lngInProgress", "lngNotExecuted", "lngUnknown"};
+constexpr Names kRunRows[] = {"lngProcessLogId", "lngProcessId", "strProcessName", "dtStartDate", "dtEndDate",
+                              "bRunOnStation",   "lngStations",  "lngOk",          "lngNotOk",    "lngInProgress",
+                              "lngNotExecuted",  "lngUnknown",   "dtStopRequested"};
 constexpr Names kUserRows[] = {
     "lngProcessLogId", "lngProcessId",  "strProcessName", "bProcessOnServer", "bProcessOnStation", "dtStartDate",
     "dtEndDate",       "bRunOnStation", "lngUserId",      "strUserName",      "strIdentifier",     "bInProgress",
@@ -85,6 +85,8 @@ constexpr QueryContract kQueries[] = {
     {CommandLog::kClassIdentifier, "GetCommandLogByStepLog", "CloseCommandLogByStepLog", kCommandRows, kCommandLog},
     {AlarmsLog::kClassIdentifier, "GetAlarms", "CloseAlarms", kAlarmRows, kAlarmsLog},
     {AlarmsLog::kClassIdentifier, "GetAlarmsByDay", "CloseAlarmsByDay", kAlarmRows, kAlarmsLog},
+    {AlarmsLog::kClassIdentifier, "AcknowledgeAlarms", "", {}, kAlarmsLog},
+    {AlarmsLog::kClassIdentifier, "ActivateAlarms", "", {}, kAlarmsLog},
     {Saves::kClassIdentifier, "GetSaves", "CloseSaves", kSaveRows, kSaves},
     {Saves::kClassIdentifier, "GetSaveFiles", "CloseSaveFiles", kFileRows, kSaves},
     {UsersImport::kClassIdentifier, "GetUsersImports", "CloseUsersImports", kImportRows, kUsersImport},

@@ -10,6 +10,9 @@
 
 namespace quorvel::datasource {
 
+// The title of message boxes that are no errors.
+inline constexpr std::string_view kProductTitle = "Vendrix Ostrana";
+
 // Raises the error being handled again, with "label, line end, tab" in front of its source. Called only while an
 // exception is handled; anything that is not an Error yet becomes one here (see CurrentError).
 [[noreturn]] void PropagateError(std::string_view label);

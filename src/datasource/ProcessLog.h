@@ -32,6 +32,7 @@ struct ProcessLogRecords {
   Column<std::int32_t> lngInProgress;
   Column<std::int32_t> lngNotExecuted;
   Column<std::int32_t> lngUnknown;
+  Column<DateValue> dtStopRequested;  // when somebody asked for the run to be stopped last, 0 = nobody did
 
   // Calls visit(name, column) for each column, in member order.
   template <class Self, class Visit>
@@ -61,6 +62,7 @@ struct ProcessLogRecords {
     visit("lngInProgress", self.lngInProgress);
     visit("lngNotExecuted", self.lngNotExecuted);
     visit("lngUnknown", self.lngUnknown);
+    visit("dtStopRequested", self.dtStopRequested);
   }
 };
 

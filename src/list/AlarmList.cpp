@@ -54,7 +54,7 @@ widgets::ColumnHeader HeaderOf(Cell cell) {
     case Cell::kBatch:
       return NumberHeader("Batch");
     case Cell::kState:
-      return TextHeader("State");
+      return TextHeader(kAlarmStateCaption);
     case Cell::kAcknowledgedBy:
       return TextHeader("Acknowledged by", kNameWidth);
     case Cell::kAcknowledged:
@@ -63,7 +63,7 @@ widgets::ColumnHeader HeaderOf(Cell cell) {
   return DateHeader("Acknowledged");
 }
 
-class AlarmRows final : public RecordRows<AlarmsLogRecords> {
+class AlarmRows : public RecordRows<AlarmsLogRecords> {
  public:
   // `rows`: those shown; empty = all `count` of them.
   AlarmRows(const AlarmsLogRecords& records, std::int32_t count, std::string nodeKey, const Platform& platform,
@@ -98,7 +98,7 @@ class AlarmRows final : public RecordRows<AlarmsLogRecords> {
       case Cell::kBatch:
         return BatchOf(alarm);
       case Cell::kState:
-        return IsActiveAlarm(records(), alarm) ? std::string_view("Active") : std::string_view("Acknowledged");
+        return IsActiveAlarm(records(), alarm) ? kActiveAlarmText : kAcknowledgedAlarmText;
       case Cell::kAcknowledgedBy:
         return records().strAcknowledgedBy[alarm];
       case Cell::kAcknowledged:
@@ -155,17 +155,8 @@ Rows AlarmListRows(const AlarmsLogRecords& records, std::int32_t count, std::str
     if (rows.empty()) return nullptr;
     count = static_cast<std::int32_t>(rows.size());
   }
-  return std::make_shared<AlarmRows>(records, count, std::string(nodeKey), platform, layout, std::move(rows));
-}
-
-std::string RunKeyOfAlarm(std::string_view rowKey) {
-  constexpr std::size_t kOwnerFields = 3;  // the alarm, and a node of two fields
-  const std::size_t before = kOwnerFields + (util::Identifiant(rowKey, 2) == util::kAlarmDayPrefix ? 1 : 0);
-  const std::vector<std::string_view> fields = util::SplitKey(rowKey);
-  if (fields.size() <= before) return {};
-  std::string key(util::kProcessPrefix);
-  for (std::size_t i = before; i < fields.size(); ++i) key.append(util::kKeySeparator).append(fields[i]);
-  return key;
+  return std::make_shared<WholeRows<AlarmRows>>(records, count, std::string(nodeKey), platform, layout,
+                                                std::move(rows));
 }
 
 }  // namespace quorvel::list

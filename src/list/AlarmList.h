@@ -10,6 +10,11 @@
 
 namespace quorvel::list {
 
+// The column that says whether somebody has seen an alarm, and what it says.
+inline constexpr std::string_view kAlarmStateCaption = "State";
+inline constexpr std::string_view kActiveAlarmText = "Active";
+inline constexpr std::string_view kAcknowledgedAlarmText = "Acknowledged";
+
 // Which columns there are besides those that every list of alarms has.
 struct AlarmLayout {
   bool owner = false;    // where alarms of several owners stand together
@@ -24,9 +29,5 @@ Headers AlarmListHeaders(AlarmLayout layout);
 // and number follow. Active alarms stand out. Error 9 when a column lacks rows.
 Rows AlarmListRows(const datasource::AlarmsLogRecords& records, std::int32_t count, std::string_view nodeKey,
                    const Platform& platform, AlarmLayout layout, const AlarmChoice& choice);
-
-// The key that the run which raised the alarm of a row has in the tree by process, by the row's key: with it as p_Key a
-// host shows the alarm's context. "" where there is none.
-std::string RunKeyOfAlarm(std::string_view rowKey);
 
 }  // namespace quorvel::list

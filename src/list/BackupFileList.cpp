@@ -11,7 +11,7 @@ namespace {
 
 using datasource::SavesRecords;
 
-class FileRows final : public RecordRows<SavesRecords> {
+class FileRows : public RecordRows<SavesRecords> {
  public:
   // `files`: the rows of `records` that are shown.
   FileRows(const SavesRecords& records, std::vector<std::uint32_t> files, std::string nodeKey, const Platform& platform)
@@ -71,7 +71,8 @@ Rows BackupFileListRows(const SavesRecords& records, std::int32_t count, std::op
   if (count < 1) return nullptr;
   const auto rowCount = static_cast<std::size_t>(count);
   datasource::RequireColumns("GetSaveFiles", records, rowCount);
-  return std::make_shared<FileRows>(records, FilesIn(records, rowCount, folder), std::string(nodeKey), platform);
+  return std::make_shared<WholeRows<FileRows>>(records, FilesIn(records, rowCount, folder), std::string(nodeKey),
+                                               platform);
 }
 
 }  // namespace quorvel::list

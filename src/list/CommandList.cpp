@@ -35,7 +35,7 @@ const Classified& ClassifyCommand(const CommandLogRecords& rows, std::size_t row
   return *std::ranges::find(kCommandOutcomes, ResultCaption(inProgress, ok, notOk), &Classified::caption);
 }
 
-class CommandRows final : public RecordRows<CommandLogRecords> {
+class CommandRows : public RecordRows<CommandLogRecords> {
  public:
   CommandRows(const CommandLogRecords& records, std::int32_t count, std::string nodeKey, const Platform& platform,
               JudgedByResult judged)

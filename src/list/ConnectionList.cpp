@@ -19,7 +19,7 @@ constexpr Classified kConnectionOutcomes[] = {
     {"User_Undefined", kUnknownCaption},
 };
 
-class ConnectionRows final : public RecordRows<CommandLogRecords> {
+class ConnectionRows : public RecordRows<CommandLogRecords> {
  public:
   ConnectionRows(const CommandLogRecords& records, std::int32_t count, std::string nodeKey, const Platform& platform,
                  DateValue now)

@@ -12,7 +12,7 @@ namespace {
 using datasource::ProcessLogRecords;
 
 // The rows of one group.
-class GroupRows final : public RecordRows<ProcessLogRecords> {
+class GroupRows : public RecordRows<ProcessLogRecords> {
  public:
   GroupRows(const ProcessLogRecords& records, std::int32_t count, std::string nodeKey, const Platform& platform,
             StateGroup group)
@@ -73,6 +73,10 @@ class RowsInParts final : public widgets::RowSource {
   void AppendCell(std::size_t row, std::size_t column, std::string& out) const override {
     const Place place = PlaceOf(row);
     place.part.AppendCell(place.row, column, out);
+  }
+  void AppendRow(std::size_t row, std::size_t columns, std::string& out) const override {
+    const Place place = PlaceOf(row);
+    place.part.AppendRow(place.row, columns, out);
   }
   std::optional<std::string_view> TextOf(std::size_t row, std::size_t column) const override {
     const Place place = PlaceOf(row);

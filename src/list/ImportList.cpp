@@ -6,7 +6,7 @@
 namespace quorvel::list {
 namespace {
 
-class ImportRows final : public RecordRows<datasource::UsersImportRecords> {
+class ImportRows : public RecordRows<datasource::UsersImportRecords> {
  public:
   using RecordRows::RecordRows;
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "datasource/Contract.h"
+#include "list/TextPieces.h"
 #include "platform/Platform.h"
 #include "util/ListViewSort.h"
 #include "util/PublicFunctions.h"
@@ -48,7 +49,7 @@ inline widgets::ColumnHeader NumberHeader(std::string_view caption, widgets::Twi
 }
 // Texts that sort as what they tell, see DurationText.
 inline widgets::ColumnHeader DurationHeader() {
-  return {.caption = "Duration", .width = 1200, .alignment = widgets::Alignment::kRight};
+  return {.caption = "Duration", .width = 1350, .alignment = widgets::Alignment::kRight};
 }
 
 // The look of a row, which stands out when it failed.
@@ -68,12 +69,13 @@ class RecordRows : public widgets::RowSource {
       : records_(std::move(records)),
         count_(static_cast<std::size_t>(count)),
         nodeKey_(std::move(nodeKey)),
-        platform_(platform) {}
+        platform_(platform),
+        hasFixedDates_(platform.HasFixedDates()) {}
 
   std::size_t Count() const final { return count_; }
 
   void AppendCell(std::size_t row, std::size_t column, std::string& out) const final {
-    std::visit([&](const auto& value) { AppendValue(value, out); }, CellOf(row, column));
+    AppendValue(CellOf(row, column), out);
   }
   std::optional<std::string_view> TextOf(std::size_t row, std::size_t column) const final {
     return Held<std::string_view>(CellOf(row, column));
@@ -99,23 +101,56 @@ class RecordRows : public widgets::RowSource {
     out.append(std::to_string(id)).append(util::kKeySeparator).append(nodeKey_);
   }
 
- private:
-  void AppendValue(std::string_view text, std::string& out) const { out.append(text); }
-  void AppendValue(DateValue date, std::string& out) const {
-    out.append(util::strFormatDateTime(platform_, date, util::kDateAndTime));
+  // `Out`: a text, or pieces of one.
+  template <class Out>
+  void AppendValue(const CellValue& cell, Out& out) const {
+    std::visit([&](const auto& value) { Append(value, out); }, cell);
   }
-  void AppendValue(std::int32_t number, std::string& out) const { out.append(std::to_string(number)); }
 
+ private:
   template <class Value>
   static std::optional<Value> Held(const CellValue& cell) {
     const Value* const value = std::get_if<Value>(&cell);
     return value == nullptr ? std::nullopt : std::optional(*value);
   }
 
+  template <class Out>
+  static void Append(std::string_view text, Out& out) {
+    out.append(text);
+  }
+  static void Append(std::int32_t number, std::string& out) { out.append(std::to_string(number)); }
+  static void Append(std::int32_t number, TextPieces& out) { out.append(number); }
+  template <class Out>
+  void Append(DateValue date, Out& out) const {
+    if (!hasFixedDates_) {
+      out.append(util::strFormatDateTime(platform_, date, util::kDateAndTime));
+    } else if (DateTimeBuffer buffer; date != 0 && !FormatFixedDateTime(date, buffer).empty()) {
+      // All of the buffer, whose size is known beforehand.
+      out.append(std::string_view(buffer.data(), buffer.size()));
+    }
+  }
+
   Records records_;
   std::size_t count_;
   std::string nodeKey_;
   const Platform& platform_;
+  bool hasFixedDates_;  // asked once, not for each cell
+};
+
+// `Kind`, a RecordRows, that writes a row without a virtual call for each cell: a million rows are copied at once.
+template <class Kind>
+class WholeRows final : public Kind {
+ public:
+  using Kind::Kind;
+
+  void AppendRow(std::size_t row, std::size_t columns, std::string& out) const override {
+    TextPieces pieces(out);
+    for (std::size_t column = 0; column < columns; ++column) {
+      if (column > 0) pieces.push_back(widgets::kCellSeparator);
+      Kind::AppendValue(Kind::CellOf(row, column), pieces);
+    }
+    pieces.Flush();
+  }
 };
 
 // The rows of a query's result as `Kind`, a RecordRows; none for a count below 1. `more`: what else its constructor
@@ -125,7 +160,7 @@ Rows MakeRows(std::string_view query, const Records& records, std::int32_t count
               const Platform& platform, const More&... more) {
   if (count < 1) return nullptr;
   datasource::RequireColumns(query, records, static_cast<std::size_t>(count));
-  return std::make_shared<Kind>(records, count, std::string(nodeKey), platform, more...);
+  return std::make_shared<WholeRows<Kind>>(records, count, std::string(nodeKey), platform, more...);
 }
 
 }  // namespace quorvel::list

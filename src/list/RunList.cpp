@@ -1,7 +1,6 @@
 #include "list/RunList.h"
 
 #include <array>
-#include <cstdio>
 
 #include "list/RunOutcome.h"
 #include "list/StationRecord.h"
@@ -44,23 +43,41 @@ class AnyRunRows : public RecordRows<ProcessLogRecords> {
   DateValue now_;
 };
 
-class RunRows final : public AnyRunRows {
+class RunRows : public AnyRunRows {
  public:
   using AnyRunRows::AnyRunRows;
 
   CellValue CellOf(std::size_t row, std::size_t column) const override {
-    const StationCounts counts = CountsOf(row);
-    if (column < kRunCells) return RunCell(row, column, counts.inProgress > 0);
-    if (column == kRunCells) return RunStatus(counts);
-    const std::array numbers{counts.total,      counts.ok,          counts.notOk,
-                             counts.inProgress, counts.notExecuted, counts.unknown};
-    return numbers[column - kRunCells - 1];
+    switch (column) {
+      case kRunCells:
+        return StatusOf(row, CountsOf(row));
+      case kRunCells + 1:
+        return records().lngStations[row];
+      case kRunCells + 2:
+        return records().lngOk[row];
+      case kRunCells + 3:
+        return records().lngNotOk[row];
+      case kRunCells + 4:
+        return records().lngInProgress[row];
+      case kRunCells + 5:
+        return records().lngNotExecuted[row];
+      case kRunCells + 6:
+        return records().lngUnknown[row];
+      default:
+        return RunCell(row, column, records().lngInProgress[row] > 0);
+    }
   }
 
   std::string_view Icon(std::size_t row) const override { return ImageOfRun(CountsOf(row)); }
   widgets::RowLook Look(std::size_t row) const override { return ErrorLook(records().lngNotOk[row] > 0); }
 
  private:
+  // A request to stop says something for as long as there is something to stop.
+  std::string StatusOf(std::size_t row, const StationCounts& counts) const {
+    const bool stopping = counts.inProgress > 0 && records().dtStopRequested[row] != 0;
+    return RunStatus(counts) + (stopping ? ", stop requested" : "");
+  }
+
   StationCounts CountsOf(std::size_t row) const {
     return {.total = records().lngStations[row],
             .notExecuted = records().lngNotExecuted[row],
@@ -71,7 +88,7 @@ class RunRows final : public AnyRunRows {
   }
 };
 
-class StationRunRows final : public AnyRunRows {
+class StationRunRows : public AnyRunRows {
  public:
   using AnyRunRows::AnyRunRows;
 
@@ -102,10 +119,20 @@ std::string DurationText(DateValue start, DateValue end, bool running, DateValue
   const std::optional<std::int64_t> seconds = SecondsBetween(start, end);
   // A clock that was set back makes no duration.
   if (!seconds || *seconds < 0) return {};
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%5lld:%02lld:%02lld", static_cast<long long>(*seconds / 3600),
-                static_cast<long long>(*seconds / 60 % 60), static_cast<long long>(*seconds % 60));
-  return text.data();
+  // Written from behind, digit by digit: a list makes one for every row that it shows or copies.
+  constexpr std::ptrdiff_t kWidth = 11;
+  std::array<char, 24> text;
+  char* const last = text.data() + text.size();
+  char* at = last;
+  const auto put = [&at](std::int64_t digit) { *--at = static_cast<char>('0' + digit); };
+  for (const std::int64_t part : {*seconds % 60, *seconds / 60 % 60}) {
+    put(part % 10);
+    put(part / 10);
+    *--at = ':';
+  }
+  for (std::int64_t hours = *seconds / 3600; hours > 0 || *at == ':'; hours /= 10) put(hours % 10);
+  while (last - at < kWidth) *--at = ' ';
+  return {at, last};
 }
 
 // How a run went stands before the numbers: it is what people look for, and they see it without scrolling. "NOT OK", as

@@ -5,7 +5,7 @@
 namespace quorvel::list {
 namespace {
 
-class StateRows final : public RecordRows<datasource::ProcessLogRecords> {
+class StateRows : public RecordRows<datasource::ProcessLogRecords> {
  public:
   using RecordRows::RecordRows;
 

@@ -8,7 +8,7 @@ namespace {
 using datasource::kTrue;
 using datasource::StepLogRecords;
 
-class StepRows final : public RecordRows<StepLogRecords> {
+class StepRows : public RecordRows<StepLogRecords> {
  public:
   using RecordRows::RecordRows;
 

@@ -7,7 +7,7 @@
 namespace quorvel::list {
 namespace {
 
-class SystemRows final : public RecordRows<datasource::TaskSchedulerLogRecords> {
+class SystemRows : public RecordRows<datasource::TaskSchedulerLogRecords> {
  public:
   using RecordRows::RecordRows;
 
@@ -71,7 +71,7 @@ Headers SystemListHeaders() {
           TextHeader("Label", kReportWidth),
           TextHeader("Company", kNameWidth),
           TextHeader("User", kNameWidth),
-          TextHeader("Attachment", kNameWidth)};
+          TextHeader(kAttachmentCaption, kNameWidth)};
 }
 
 Rows SystemListRows(const datasource::TaskSchedulerLogRecords& records, std::int32_t count, const Platform& platform) {

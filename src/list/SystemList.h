@@ -9,6 +9,8 @@
 
 namespace quorvel::list {
 
+// The column of the file that belongs to an entry.
+inline constexpr std::string_view kAttachmentCaption = "Attachment";
 // Stands in the place of an attachment whose file is gone.
 inline constexpr std::string_view kNonexistentFile = "Nonexistent file";
 

@@ -7,7 +7,7 @@ namespace {
 
 using datasource::TaskRunRecords;
 
-class TaskRows final : public RecordRows<TaskRunRecords> {
+class TaskRows : public RecordRows<TaskRunRecords> {
  public:
   TaskRows(const TaskRunRecords& records, std::int32_t count, std::string nodeKey, const Platform& platform,
            bool serverMode)

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
+#include <cstring>
 
 #include "platform/Error.h"
 
@@ -32,11 +32,11 @@ struct DaySeconds {
 };
 
 std::optional<DaySeconds> Split(DateValue date) {
-  if (!std::isfinite(date)) return std::nullopt;
-  const double whole = std::trunc(date);
-  if (whole < static_cast<double>(kFirstDay) || whole > static_cast<double>(kLastDay)) return std::nullopt;
-  DaySeconds result{static_cast<std::int64_t>(whole),
-                    std::llround(std::fabs(date - whole) * static_cast<double>(kSecondsPerDay))};
+  // Not true of a number that is none either.
+  if (!(date > static_cast<double>(kFirstDay - 1) && date < static_cast<double>(kLastDay + 1))) return std::nullopt;
+  const auto day = static_cast<std::int64_t>(date);
+  const double time = std::fabs(date - static_cast<double>(day)) * static_cast<double>(kSecondsPerDay);
+  DaySeconds result{day, static_cast<std::int64_t>(time + 0.5)};
   if (result.second == kSecondsPerDay) result = {result.day + 1, 0};
   if (result.day > kLastDay) return std::nullopt;
   return result;
@@ -67,6 +67,15 @@ std::int64_t AddMonths(std::int64_t day, std::int32_t count) {
   const unsigned dayOfMonth = std::min(static_cast<unsigned>(from.day()), static_cast<unsigned>(last.day()));
   return DayNumber(static_cast<int>(year), month, dayOfMonth);
 }
+
+// "00" to "99".
+constexpr std::array<std::array<char, 2>, 100> kTwoDigits = [] {
+  std::array<std::array<char, 2>, 100> all{};
+  for (std::size_t number = 0; number < all.size(); ++number) {
+    all[number] = {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
+  }
+  return all;
+}();
 
 // Reads exactly `width` digits at `position`.
 std::optional<int> Digits(std::string_view text, std::size_t position, std::size_t width) {
@@ -152,11 +161,10 @@ std::string FormatFixedDateTime(DateValue date) {
 std::string_view FormatFixedDateTime(DateValue date, DateTimeBuffer& buffer) {
   const std::optional<CivilTime> civil = CivilFromDate(date);
   if (!civil) return {};
-  // Written digit by digit: a list formats two dates for every row that it shows or copies.
+  // Looked up, not computed: a list formats two dates for every row that it shows or copies.
   std::string_view("0000-00-00 00:00:00").copy(buffer.data(), buffer.size());
   const auto put = [&buffer](std::size_t first, unsigned value) {
-    buffer[first] = static_cast<char>('0' + value / 10);
-    buffer[first + 1] = static_cast<char>('0' + value % 10);
+    std::memcpy(buffer.data() + first, kTwoDigits[value].data(), 2);
   };
   const auto year = static_cast<unsigned>(civil->year);
   put(0, year / 100);

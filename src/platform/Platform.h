@@ -52,8 +52,14 @@ class Platform {
 
   // Opens a file with the desktop's own program for it. Error 53 when it does not exist, 5 when no program opens it.
   virtual void OpenFile(const std::filesystem::path& file) = 0;
+  // Lets the user choose the program that opens a file. The same errors.
+  virtual void OpenFileWith(const std::filesystem::path& file) = 0;
   // Whether a file, or a folder, is there; not so where the system does not say.
   virtual bool FileExists(const std::filesystem::path& file) const = 0;
+
+  // Whether the user pressed Escape since the last call, while work goes on that can be broken off. Other input waits
+  // until the work is done.
+  virtual bool IsEscapePressed() { return false; }
 
   // Writes `text` into the first panel of the host's status bar `stStatusBar`. Error 438 when the host has none.
   virtual void SetHostStatusText(std::string_view text) = 0;

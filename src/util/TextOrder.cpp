@@ -223,6 +223,10 @@ std::strong_ordering CompareTexts(std::string_view a, std::string_view b) {
   return std::is_neq(order) ? order : a <=> b;
 }
 
+bool BeginsWith(std::string_view text, std::string_view beginning) {
+  return text.size() >= beginning.size() && std::is_eq(CompareSmall(text.substr(0, beginning.size()), beginning, 0));
+}
+
 std::vector<std::int64_t> RankTexts(std::span<const std::string_view> texts) {
   DistinctTexts collected(texts.size());
   for (const std::string_view text : texts) collected.Append(text);

@@ -87,11 +87,17 @@ class Control {
   ControlObserver* observer_ = nullptr;
 };
 
-// Controls that are no more than their place and text.
 class Label : public Control {
  public:
   using Control::Control;
+  bool bold() const { return bold_; }
+  void SetBold(bool bold) { Set(bold_, bold); }
+
+ private:
+  bool bold_ = false;
 };
+
+// Controls that are no more than their place and text.
 class Frame : public Control {
  public:
   using Control::Control;
@@ -100,6 +106,7 @@ class TextBox : public Control {
  public:
   using Control::Control;
 };
+// Many lines to be read; lines end with CR LF, "&" is a letter like any other.
 class RichTextBox : public Control {
  public:
   using Control::Control;

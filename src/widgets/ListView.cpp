@@ -6,6 +6,13 @@
 
 namespace quorvel::widgets {
 
+void RowSource::AppendRow(std::size_t row, std::size_t columns, std::string& out) const {
+  for (std::size_t column = 0; column < columns; ++column) {
+    if (column > 0) out.push_back(kCellSeparator);
+    AppendCell(row, column, out);
+  }
+}
+
 void ListView::RequireRow(std::size_t row) const {
   if (row >= Count()) throw Error(SystemError::kIndexOutOfRange, name() + " has no such row");
 }

@@ -42,15 +42,20 @@ struct RowLook {
   friend bool operator==(const RowLook&, const RowLook&) = default;
 };
 
+// Between the cells of a row that is written as one text.
+inline constexpr char kCellSeparator = '\t';
+
 // Makes key, icon and cells of a row on request; holds the data that they are made from. Immutable while a list shows
 // it. Rows and columns are counted from 0 and always in range.
 class RowSource {
  public:
   virtual ~RowSource() = default;
   virtual std::size_t Count() const = 0;
-  // Both append to `out`, so that text of many rows is gathered without a string for each.
+  // They append to `out`, so that text of many rows is gathered without a string for each.
   virtual void AppendKey(std::size_t row, std::string& out) const = 0;
   virtual void AppendCell(std::size_t row, std::size_t column, std::string& out) const = 0;
+  // The first `columns` cells, parted by kCellSeparator.
+  virtual void AppendRow(std::size_t row, std::size_t columns, std::string& out) const;
   // Key into the image list, "" = none; lives as long as the source.
   virtual std::string_view Icon(std::size_t row) const = 0;
   virtual RowLook Look(std::size_t /*row*/) const { return {}; }
@@ -137,6 +142,8 @@ class ListView : public Control {
   void AppendCell(std::size_t row, std::size_t column, std::string& out) const {
     rows_->AppendCell(SourceRow(row), column, out);
   }
+  // All cells of a row that have a header, parted by kCellSeparator.
+  void AppendRow(std::size_t row, std::string& out) const { rows_->AppendRow(SourceRow(row), headers_.size(), out); }
   // What stands behind the text of a cell, where the source tells; they check nothing either. A text is valid until the
   // list gets other rows.
   std::optional<std::string_view> TextOf(std::size_t row, std::size_t column) const {

@@ -7,7 +7,10 @@
 
 namespace quorvel::widgets {
 
-Menu::Menu(std::string_view name, std::vector<MenuEntry> entries) : Control(name), entries_(std::move(entries)) {}
+Menu::Menu(std::string_view name, std::string_view caption, std::vector<MenuEntry> entries)
+    : Control(name), entries_(std::move(entries)) {
+  SetText(caption);
+}
 
 std::size_t Menu::IndexOf(std::string_view name) const {
   const auto found = std::ranges::find(entries_, name, &MenuEntry::name);

@@ -234,6 +234,15 @@ void TreeView::ScrollTo(NodeId top) {
   Settle();
 }
 
+NodeId TreeView::NextLine(NodeId node) const {
+  if (IsExpanded(node) && ChildCount(node) > 0) return Child(node, 0);
+  for (; node != NodeId::kNone; node = Parent(node)) {
+    const auto siblings = Children(Parent(node));
+    if (RowOf(node) + 1 < siblings.size()) return siblings[RowOf(node) + 1];
+  }
+  return NodeId::kNone;
+}
+
 bool TreeView::IsInPendingInsertion(NodeId parent) const {
   if (pending_.structure != Pending::Structure::kInserted) return false;
   for (NodeId node = parent; node != NodeId::kNone; node = Parent(node)) {

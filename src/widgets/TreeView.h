@@ -44,6 +44,8 @@ class TreeObserver {
   virtual void TreeScrolled(NodeId top) = 0;
   // The first node in sight; kNone while the tree is not scrolled.
   virtual NodeId TopNode() const = 0;
+  // Whether a node's line is seen; one that draws nothing hides nothing.
+  virtual bool SeesNode(NodeId /*node*/) const { return true; }
 };
 
 // Children, parents, rows and keys are found in constant time. Keys need not be unique: every node stays, and a look-up
@@ -124,6 +126,10 @@ class TreeView : public Control {
   // The first node in sight, which the observer knows; kNone while the tree is not scrolled.
   NodeId Top() const { return observer_ == nullptr ? top_ : observer_->TopNode(); }
   void ScrollTo(NodeId top);
+  // Whether the node's line is in sight.
+  bool IsInSight(NodeId node) const { return observer_ == nullptr || observer_->SeesNode(node); }
+  // The node below this one as the tree is open; kNone after the last.
+  NodeId NextLine(NodeId node) const;
 
  private:
   // The children of a node: a stretch of childSlots_, which moves to the end when it outgrows its place. A list for

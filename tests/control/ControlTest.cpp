@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "control/Layout.h"
 #include "control/Routing.h"
 #include "control/ucProcessLog.h"
@@ -95,6 +97,30 @@ TEST_F(ControlTest, BuildsTheTreeAndShowsTheFirstNodesChildren) {
                                                     "create clRecordHub.ProcessLog on \"\"",
                                                     "GetProcessLogs 2026-11-20 00:00:00 2026-11-21 00:00:00 4 -1",
                                                     "CloseProcessLogs", "GetProcessLogByProcess 12"}));
+}
+
+TEST_F(ControlTest, ExpandAllLoadsUpToABoundAndStopsAtEscape) {
+  constexpr std::int32_t kRuns = 5'020;
+  StationRows rows;
+  for (std::int32_t run = 1; run <= kRuns; ++run) rows.Station(12, run, 7, StationRows::kOk);
+  history.processLogs = rows.Records();
+  history.processLogsCount = rows.count();
+  history.stationsCount = 0;
+  control.m_GetLogByProcess();
+  const auto loads = [&] {
+    return std::ranges::count_if(history.calls,
+                                 [](const std::string& call) { return call.starts_with("GetProcessLogByTask"); });
+  };
+  platform.looksUntilEscape = 10;
+  control.mnu_popupTV_Expand_all_Click();
+  EXPECT_EQ(loads(), 10);
+  EXPECT_THAT(platform.messages, testing::IsEmpty()) << "who presses Escape knows";
+  control.mnu_popupTV_Expand_all_Click();
+  EXPECT_EQ(loads(), 10 + 5'000) << "goes on where it stopped";
+  EXPECT_THAT(platform.messages, ElementsAre(HasSubstr("5000 nodes were loaded, and there are more")));
+  control.mnu_popupTV_Expand_all_Click();
+  EXPECT_EQ(loads(), kRuns);
+  EXPECT_EQ(platform.messages.size(), 1U);
 }
 
 TEST_F(ControlTest, LoadsAGroupOnceAndListsItsStations) {
@@ -549,6 +575,54 @@ TEST_F(ControlTest, ASmallControlScrolls) {
   EXPECT_EQ(controls().fraProcessLog.bounds().left, left - 600);
   control.UserControl_Resize(15000, 9000);
   EXPECT_EQ(controls().fraProcessLog.bounds().left, left);
+}
+
+// A tree of which three lines can be seen.
+class ThreeLines final : public widgets::TreeObserver {
+ public:
+  explicit ThreeLines(widgets::TreeView& tree) : tree_(tree) { tree_.ObserveTree(this); }
+  ~ThreeLines() override { tree_.ObserveTree(nullptr); }
+  void TreeReset() override {}
+  void NodesInserted(NodeId, std::size_t, std::size_t) override {}
+  void ChildrenRemoved(NodeId, std::span<const NodeId>) override {}
+  void NodesChanged(std::span<const NodeId>) override {}
+  void NodeExpansionChanged(NodeId) override {}
+  void TreeSelectionChanged() override {}
+  void TreeScrolled(NodeId top) override { top_ = top; }
+  NodeId TopNode() const override { return top_; }
+  bool SeesNode(NodeId node) const override {
+    NodeId line = top_ == NodeId::kNone ? tree_.Child(NodeId::kNone, 0) : top_;
+    for (int lines = 0; lines < 3 && line != NodeId::kNone; ++lines, line = tree_.NextLine(line)) {
+      if (line == node) return true;
+    }
+    return false;
+  }
+
+ private:
+  widgets::TreeView& tree_;
+  NodeId top_ = NodeId::kNone;
+};
+
+TEST_F(ControlTest, ScrollsUntilWhatWasOpenedIsSeen) {
+  control.m_GetLogByProcess();
+  widgets::TreeView& tree = controls().tvMotherList;
+  const ThreeLines observer(tree);
+  const auto ticks = [&] {
+    int count = 0;
+    for (; controls().Timer_ScrollDown_TV.enabled() && count < 99; ++count) control.Timer_ScrollDown_TV_Timer();
+    return count;
+  };
+  control.tvMotherList_Expand(Node("LPROC|12"));
+  EXPECT_EQ(ticks(), 0) << "everything is in sight";
+  control.tvMotherList_Expand(Node("LPROC|12|0|345"));
+  EXPECT_EQ(ticks(), 2);
+  EXPECT_EQ(tree.Top(), Node("LPROC|12|0|345")) << "two groups below it";
+  tree.ScrollTo(NodeId::kNone);
+  control.tvMotherList_Expand(Node("LPROC|12|0|345|2"));
+  control.Timer_ScrollDown_TV_Timer();
+  tree.ScrollTo(NodeId::kNone);
+  EXPECT_EQ(ticks(), 1) << "the user scrolled";
+  EXPECT_EQ(tree.Top(), NodeId::kNone);
 }
 
 }  // namespace

@@ -167,7 +167,7 @@ TEST(ContractTest, EachPromisedColumnIsAColumnOfItsClass) {
       EXPECT_TRUE(columns[query.classIdentifier].contains(column)) << query.query << " promises " << column;
     }
   }
-  EXPECT_EQ(queries.size(), 22U);
+  EXPECT_EQ(queries.size(), 24U);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <vector>
 
 #include "datasource/AlarmsLog.h"
 #include "datasource/Saves.h"
@@ -70,6 +71,46 @@ void CheckGetAlarmsByDay(Installation& at) {
   ask(0);
   source->CloseAlarmsByDay(at.Connection());
   EXPECT_EQ(source->lngCount(), 0);
+}
+
+using Alarms = std::vector<std::int32_t>;
+
+std::int32_t Acknowledge(Installation& at, const Alarms& alarms, std::string_view user) {
+  std::int32_t status = -1;
+  at.Create<AlarmsLog>()->AcknowledgeAlarms(at.Connection(), alarms, user, status);
+  return status;
+}
+
+std::int32_t Activate(Installation& at, const Alarms& alarms) {
+  std::int32_t status = -1;
+  at.Create<AlarmsLog>()->ActivateAlarms(at.Connection(), alarms, status);
+  return status;
+}
+
+// "alarm flag user", and "dated" where it says when.
+std::string StateOf(Installation& at, std::int32_t alarm) {
+  const auto source = at.Create<AlarmsLog>();
+  std::int32_t status = -1;
+  source->GetAlarms(at.Connection(), alarm, 0, status);
+  const datasource::AlarmsLogRecords& rows = source->Records();
+  return std::to_string(rows.bAcknowledged[0]) + " " + std::string(rows.strAcknowledgedBy[0]) +
+         (rows.dtAcknowledged[0] > 0 ? " dated" : "");
+}
+
+void CheckAcknowledgeAlarms(Installation& at) {
+  EXPECT_EQ(Acknowledge(at, {601, 602, 999}, std::string_view("DOM\\zo\xC3\xA9\0", 9)), 0);
+  EXPECT_EQ(StateOf(at, 601), "-1 DOM\\zo\xC3\xA9 dated") << "a name ends at its NUL";
+  EXPECT_EQ(StateOf(at, 602), "-1 ADM\\eve dated") << "who acknowledged first stays";
+  EXPECT_EQ(StateOf(at, 605), "0 ");
+  EXPECT_EQ(Acknowledge(at, {998, 999}, "bob"), 1);
+  EXPECT_EQ(Acknowledge(at, {}, "bob"), 1);
+}
+
+void CheckActivateAlarms(Installation& at) {
+  EXPECT_EQ(Activate(at, {602, 601}), 0);
+  EXPECT_EQ(StateOf(at, 602), "0 ");
+  EXPECT_EQ(StateOf(at, 601), "0 ");
+  EXPECT_EQ(Activate(at, {999}), 1);
 }
 
 void CheckGetSaves(Installation& at) {
@@ -204,6 +245,8 @@ void CheckGetTaskSchedulerLogs(Installation& at) {
 constexpr QueryCase kCases[] = {
     {"GetAlarms", CheckGetAlarms},
     {"GetAlarmsByDay", CheckGetAlarmsByDay},
+    {"AcknowledgeAlarms", CheckAcknowledgeAlarms},
+    {"ActivateAlarms", CheckActivateAlarms},
     {"GetSaves", CheckGetSaves},
     {"GetSaveFiles", CheckGetSaveFiles},
     {"GetUsersImports", CheckGetUsersImports},

@@ -91,12 +91,12 @@ void CheckGetProcessLogByProcess(Installation& at) {
     source->GetProcessLogByProcess(at.Connection(), process, 0, 0, status);
     return Rows("GetProcessLogByProcess", *source);
   };
-  EXPECT_EQ(ask(kDeploy), R"(101|11|Deploy|46346.25|0|0|3|0|0|1|1|1|
-100|11|Deploy|46345.25|46345.5|0|4|2|1|0|0|1|
-103|11|Deploy|46344|0|0|0|0|0|0|0|0|
+  EXPECT_EQ(ask(kDeploy), R"(101|11|Deploy|46346.25|0|0|3|0|0|1|1|1|0|
+100|11|Deploy|46345.25|46345.5|0|4|2|1|0|0|1|0|
+103|11|Deploy|46344|0|0|0|0|0|0|0|0|0|
 )");
-  EXPECT_EQ(ask(kArchive), R"(104|13|Archive|x|46345.75|46345.875|-1|1|0|0|0|0|1|
-105|13|Archive|x|0|0|-1|1|1|0|0|0|0|
+  EXPECT_EQ(ask(kArchive), R"(104|13|Archive|x|46345.75|46345.875|-1|1|0|0|0|0|1|0|
+105|13|Archive|x|0|0|-1|1|1|0|0|0|0|0|
 )");
   EXPECT_EQ(ask(kEmpty), "");
   EXPECT_EQ(status, 0);
@@ -168,8 +168,8 @@ void CheckGetProcessLogsByName(Installation& at) {
     source->GetProcessLogsByName(at.Connection(), from, to, name, status);
     return Rows("GetProcessLogsByName", *source);
   };
-  EXPECT_EQ(ask(kEarly, kLate, "backup"), R"(102|10|backup|46346|46346.125|0|1|1|0|0|0|0|
-106|10|backup|46343|46343.5|0|1|0|1|0|0|0|
+  EXPECT_EQ(ask(kEarly, kLate, "backup"), R"(102|10|backup|46346|46346.125|0|1|1|0|0|0|0|0|
+106|10|backup|46343|46343.5|0|1|0|1|0|0|0|0|
 )");
   EXPECT_EQ(ask(kEarly, kLate, "BACKUP"), "");
   EXPECT_EQ(status, 0);
@@ -305,7 +305,13 @@ std::int32_t Notify(Installation& at, std::int32_t run) {
 void CheckStopExecution(Installation& at) {
   EXPECT_EQ(Stop(at, false, kDeployRunning), 0);
   EXPECT_EQ(Stop(at, false, kDeployRunning), 0) << "asking again is no error";
+  const auto runs = at.Create<ProcessLog>();
+  std::int32_t status = -1;
+  runs->GetProcessLogByProcess(at.Connection(), kDeploy, 0, 0, status);
+  EXPECT_GT(runs->Records().dtStopRequested[0], 46000) << "and the run says so";
+  EXPECT_EQ(runs->Records().dtStopRequested[1], 0);
   EXPECT_EQ(Stop(at, true, kDeployRunning), 1);
+  EXPECT_EQ(Stop(at, false, kDeployWithAll), 1) << "it ended";
   EXPECT_EQ(Stop(at, false, 999), 1);
 }
 

@@ -11,6 +11,7 @@ class SqliteInstallation final : public Installation {
  public:
   datasource::RecordSourceFactory& Factory() override { return hub_; }
   std::int32_t Connection() const override { return connection_; }
+  hub::RecordHub& hub() { return hub_; }
 
  private:
   SmallHistory history_;

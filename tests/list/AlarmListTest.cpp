@@ -1,5 +1,6 @@
 // The list of alarms from given columns.
 #include "list/AlarmList.h"
+#include "list/RowFacts.h"
 
 #include <gtest/gtest.h>
 
@@ -62,10 +63,14 @@ TEST_F(AlarmListTest, OfSeveralOwnersShowsThoseThatWereChosen) {
 }
 
 TEST_F(AlarmListTest, ARowsKeyLeadsToItsRun) {
-  EXPECT_EQ(RunKeyOfAlarm("1|LOGALRM|7|2026/11/20|12|1|345"), "LPROC|12|1|345");
-  EXPECT_EQ(RunKeyOfAlarm("1|LOGALRM|7|2026/11/20"), "");
-  EXPECT_EQ(RunKeyOfAlarm("1|LOGAALL|-1|12|0|345"), "LPROC|12|0|345");
-  EXPECT_EQ(RunKeyOfAlarm("1|LOGA1USR|7"), "");
+  EXPECT_EQ(RunKeyIn("1|LOGALRM|7|2026/11/20|12|1|345"), "LPROC|12|1|345");
+  EXPECT_EQ(RunKeyIn("1|LOGALRM|7|2026/11/20"), "");
+  EXPECT_EQ(RunKeyIn("1|LOGAALL|-1|12|0|345"), "LPROC|12|0|345");
+  EXPECT_EQ(RunKeyIn("1|LOGA1USR|7"), "");
+  EXPECT_EQ(RunKeyIn("54|LPROC|1|0|376|2"), "LPROC|1|0|376") << "and so does that of a station";
+  EXPECT_EQ(RunKeyIn("LUSR|7|12|1|345|9"), "LPROC|12|1|345");
+  EXPECT_EQ(RunKeyIn("LPROC|12|1"), "");
+  EXPECT_EQ(RunKeyIn("LCOMM|2026/11|2026/11/20|5"), "");
 }
 
 }  // namespace

@@ -46,6 +46,21 @@ TEST(RunOutcome, DurationsSortAsTextAndWaitForTheirEnd) {
   EXPECT_LT(DurationText(start, end, false, now), DurationText(start, 0, true, now));
 }
 
+TEST(TextPieces, StandInOrderWhateverTheirLength) {
+  std::string text = "before";
+  std::string expected = text;
+  TextPieces pieces(text);
+  for (int length = 0; length < 1'100; length += 37) {
+    const std::string piece(static_cast<std::size_t>(length), static_cast<char>('a' + length % 26));
+    pieces.append(piece);
+    pieces.append(-2'147'483'647 - length % 2);
+    pieces.push_back('|');
+    expected += piece + std::to_string(-2'147'483'647 - length % 2) + "|";
+  }
+  pieces.Flush();
+  EXPECT_EQ(text, expected);
+}
+
 TEST_F(ListsTest, JudgesTransfersByTheirResultAndOthersByTheirFlags) {
   datasource::CommandLogRecords rows;
   rows.lngCommandLogId = MakeColumn<std::int32_t>({1, 2, 3, 4, 5});

@@ -23,6 +23,8 @@ class RecordingPlatform : public StandardPlatform {
   void ClearClipboard() override { clipboard.clear(); }
   void SetClipboardText(std::string_view text) override { clipboard = text; }
   void OpenFile(const std::filesystem::path& /*file*/) override {}
+  void OpenFileWith(const std::filesystem::path& /*file*/) override {}
+  bool IsEscapePressed() override { return looksUntilEscape-- == 0; }
   void SetHostStatusText(std::string_view text) override {
     ++statusCalls;
     if (onStatus) onStatus();
@@ -55,6 +57,7 @@ class RecordingPlatform : public StandardPlatform {
   int statusCalls = 0;
   bool hasStatusBar = true;
   std::function<void()> onStatus;  // what else the host does then
+  int looksUntilEscape = -1;       // negative: nobody presses it
   bool deleteFails = false;
   bool renameFails = false;
 };

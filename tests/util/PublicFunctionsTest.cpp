@@ -119,5 +119,33 @@ TEST(CopyListView, CellsThatWouldBreakRowsAreQuoted) {
             "\"\n\"\tit's\t\"\t\"\r\n");
 }
 
+class ManyRows final : public PlainRows {
+ public:
+  std::size_t Count() const override { return 1'000; }
+  void AppendCell(std::size_t row, std::size_t column, std::string& out) const override {
+    const bool odd = row == 777 && column == 1;
+    out += (odd ? "\"" : "say \"no\"\x1f") + std::to_string(row * column);
+  }
+};
+
+TEST(CopyListView, OneOddCellAmongManyLeavesTheOthersAsTheyAre) {
+  test::RecordingPlatform platform;
+  widgets::ListView list("lvMotherList");
+  list.SetHeaders({{.caption = "A"}, {.caption = "B"}});
+  list.SetRows(std::make_shared<ManyRows>());
+  widgets::RowRanges selected;
+  std::string expected = "A\tB\r\n";
+  for (std::size_t first = 0; first < 997; first += 100) {
+    selected.Add({first, first + 99});
+    for (std::size_t row = first; row < first + 99; ++row) {
+      const std::string second = list.Cell(row, 1);
+      expected += list.Cell(row, 0) + "\t" + (row == 777 ? "\"\"" + second + "\"" : second) + "\r\n";
+    }
+  }
+  list.SetSelection(selected);
+  m_CopyListView(platform, list);
+  EXPECT_EQ(platform.clipboard, expected);
+}
+
 }  // namespace
 }  // namespace quorvel::util
