@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
@@ -26,10 +27,32 @@ QStringList TextsOf(const widgets::ItemList& list) {
   return texts;
 }
 
+// Whether the text goes on and on without a place to break a line at. Qt looks for one from each line's beginning to
+// the end, so that a megabyte of code letters would take it minutes.
+bool NeverBreaks(const QString& text) {
+  constexpr qsizetype kLongest = 20'000;
+  qsizetype begin = 0;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text[i].isSpace() && text[i] != QChar::Nbsp) begin = i + 1;
+    if (i - begin >= kLongest) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 void DrawContent(const widgets::Label& label, QLabel& widget) {
   widget.setText(ToQt(label.text()));
+  if (widget.font().bold() == label.bold()) return;
+  QFont font = widget.font();
+  font.setBold(label.bold());
+  widget.setFont(font);
+}
+
+void DrawContent(const widgets::RichTextBox& box, QPlainTextEdit& widget) {
+  const QString text = ToQt(box.text());
+  widget.setWordWrapMode(NeverBreaks(text) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
+  widget.setPlainText(text);
 }
 
 void DrawContent(const widgets::TextBox& box, QLineEdit& widget) {

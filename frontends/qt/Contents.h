@@ -12,6 +12,7 @@ class QDateTimeEdit;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QPlainTextEdit;
 class QPushButton;
 class QScrollBar;
 class QTabBar;
@@ -20,6 +21,8 @@ namespace quorvel::qt {
 
 void DrawContent(const widgets::Label& label, QLabel& widget);
 void DrawContent(const widgets::TextBox& box, QLineEdit& widget);
+// Not cheap: only for a text that is not drawn already.
+void DrawContent(const widgets::RichTextBox& box, QPlainTextEdit& widget);
 void DrawContent(const widgets::CheckBox& box, QCheckBox& widget);
 void DrawContent(const widgets::Button& button, QPushButton& widget);
 void DrawContent(const widgets::ComboBox& combo, QComboBox& widget);

@@ -1,7 +1,7 @@
 // The boundary to Qt: no exception leaves a slot or an overridden virtual function.
 #pragma once
 
-#include <QtGlobal>
+#include <QObject>
 #include <utility>
 
 #include "platform/Error.h"
@@ -30,6 +30,13 @@ Result GuardedOr(Result fallback, Body&& body) noexcept {
     qWarning("%s (%d)", error.what(), error.number());
   }
   return fallback;
+}
+
+// A slot that calls `body` with what the signal carries.
+template <class Sender, class Signal, class Body>
+void On(Sender* sender, Signal signal, QObject* context, Body body) {
+  QObject::connect(sender, signal, context,
+                   [body = std::move(body)](auto&&... values) { Guarded([&] { body(values...); }); });
 }
 
 }  // namespace quorvel::qt

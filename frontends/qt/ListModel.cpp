@@ -68,6 +68,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
         return ToQt(Cell(row, column));
       case kPaintedTextRole:
         return ToQt(Cell(row, column).substr(0, kPaintedBytes));
+      case Qt::AccessibleTextRole:
+        return SpokenText(Cell(row, column), column == 0 ? list_.Icon(row) : std::string_view());
       case Qt::DecorationRole:
         return column == 0 ? QVariant(icons_.Of(list_.Icon(row))) : QVariant();
       case Qt::TextAlignmentRole:

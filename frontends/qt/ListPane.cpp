@@ -1,20 +1,25 @@
 #include "qt/ListPane.h"
 
+#include <QAccessible>
+#include <QContextMenuEvent>
 #include <QEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPersistentModelIndex>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 
 #include "qt/Convert.h"
 #include "qt/Guard.h"
 #include "qt/ItemDelegate.h"
+#include "qt/ListHeader.h"
 #include "qt/ListStyle.h"
+#include "qt/MenuKeys.h"
 
 namespace quorvel::qt {
 namespace {
@@ -25,10 +30,32 @@ void Tell(const Handler& handler, Values... values) {
   if (handler) handler(values...);
 }
 
+// A key alone that goes to another row.
+bool IsMove(const QKeyEvent& key) {
+  constexpr int kMoves[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
+  const bool alone = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  return alone && std::ranges::find(kMoves, key.key()) != std::end(kMoves);
+}
+
 }  // namespace
 
 using widgets::RowRange;
 using widgets::RowRanges;
+
+// While one lives, the owner does not hear of the selection: a press changes it in several steps.
+class ListPane::Gesture {
+ public:
+  explicit Gesture(ListPane& pane) : pane_(pane) { ++pane_.gestureDepth_; }
+  ~Gesture() {
+    --pane_.gestureDepth_;
+    Guarded([&] { pane_.TellSelection(); });
+  }
+  Gesture(const Gesture&) = delete;
+  Gesture& operator=(const Gesture&) = delete;
+
+ private:
+  ListPane& pane_;
+};
 
 ListPane::ListPane(widgets::ListView& list, ListGestures gestures, QWidget* parent)
     : QTableView(parent), list_(list), gestures_(std::move(gestures)), model_(list) {
@@ -44,7 +71,7 @@ ListPane::ListPane(widgets::ListView& list, ListGestures gestures, QWidget* pare
   setHorizontalScrollMode(ScrollPerPixel);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  horizontalHeader()->setHighlightSections(false);
+  setHorizontalHeader(new ListHeader(this));
   horizontalHeader()->setMinimumSectionSize(24);
   auto* const style = new ListStyle;
   style->setParent(this);
@@ -166,8 +193,31 @@ void ListPane::WriteSelection() {
   std::optional<std::size_t> item;
   if (currentIndex().isValid()) item = static_cast<std::size_t>(currentIndex().row());
   if (item && !rows.Contains(*item)) item.reset();
-  const QScopedValueRollback following(following_, true);
-  list_.SetSelection(std::move(rows), item);
+  const RowRanges rowsBefore = list_.Selection();
+  const auto itemBefore = list_.SelectedItem();
+  {
+    const QScopedValueRollback following(following_, true);
+    list_.SetSelection(std::move(rows), item);
+  }
+  if (list_.Selection() != rowsBefore || list_.SelectedItem() != itemBefore) selectionWritten_ = true;
+  TellSelection();
+}
+
+void ListPane::TellSelection() {
+  if (gestureDepth_ == 0 && std::exchange(selectionWritten_, false)) Tell(gestures_.selectionChanged);
+}
+
+void ListPane::MouseDown(MouseButton button, const QModelIndex& index) {
+  Tell(gestures_.mouseDown, button,
+       index.isValid() ? std::optional(static_cast<std::size_t>(index.row())) : std::nullopt);
+}
+
+void ListPane::OpenMenuByKey() {
+  const auto item = list_.SelectedItem();
+  const QModelIndex index = item ? model_.index(static_cast<int>(*item), 0) : QModelIndex();
+  if (index.isValid()) scrollTo(index);
+  menuPlace_ = viewport()->mapToGlobal(BelowText(*this, index));
+  MouseDown(MouseButton::kRight, index);
 }
 
 void ListPane::initViewItemOption(QStyleOptionViewItem* option) const {
@@ -197,8 +247,14 @@ QModelIndex ListPane::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
 
 void ListPane::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   Guarded([&] {
-    QTableView::selectionChanged(selected, deselected);
-    if (!following_) WriteSelection();
+    // QTableView itself would make an index of every selected cell, to tell a screen reader of the first one.
+    QAbstractItemView::selectionChanged(selected, deselected);
+    QAccessibleEvent told(this, QAccessible::SelectionWithin);
+    QAccessible::updateAccessibility(&told);
+    if (following_) return;
+    WriteSelection();
+    // A screen reader selects without going anywhere; the keys go on from there.
+    if (gestureDepth_ == 0) FollowSelection();
   });
 }
 
@@ -219,28 +275,43 @@ void ListPane::changeEvent(QEvent* event) {
 void ListPane::mousePressEvent(QMouseEvent* event) {
   Guarded([&] {
     doubleClicked_ = false;
-    QTableView::mousePressEvent(event);
+    // The owner selects what the right button is pressed on.
+    if (event->button() != Qt::RightButton) {
+      const Gesture gesture(*this);
+      QTableView::mousePressEvent(event);
+    }
+    menuPlace_ = event->globalPosition().toPoint();
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton) MouseDown(MouseButton::kLeft, index);
+    if (event->button() == Qt::RightButton) MouseDown(MouseButton::kRight, index);
   });
 }
 
 void ListPane::mouseMoveEvent(QMouseEvent* event) {
   Guarded([&] {
+    const Gesture gesture(*this);
     if (!doubleClicked_) QTableView::mouseMoveEvent(event);
   });
 }
 
 void ListPane::mouseReleaseEvent(QMouseEvent* event) {
   Guarded([&] {
+    const Gesture gesture(*this);
     doubleClicked_ = false;
-    QTableView::mouseReleaseEvent(event);
+    if (event->button() != Qt::RightButton) QTableView::mouseReleaseEvent(event);
   });
 }
 
 void ListPane::mouseDoubleClickEvent(QMouseEvent* event) {
   Guarded([&] {
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (event->button() != Qt::LeftButton || !index.isValid()) return QTableView::mouseDoubleClickEvent(event);
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    // The second press of a quick pair is a press like any other there.
+    if (event->button() != Qt::LeftButton) return mousePressEvent(event);
+    if (!index.isValid()) return QTableView::mouseDoubleClickEvent(event);
+    {
+      const Gesture gesture(*this);
+      selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
     doubleClicked_ = true;
     Tell(gestures_.doubleClick);
   });
@@ -251,9 +322,42 @@ void ListPane::keyPressEvent(QKeyEvent* event) {
     constexpr std::int32_t kEnter = 13;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool alone = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (!enter || !alone) return QTableView::keyPressEvent(event);
     event->accept();
-    Tell(gestures_.keyDown, kEnter);
+    if (enter && alone) return Tell(gestures_.keyDown, kEnter);
+    if (event->matches(QKeySequence::Copy)) return Tell(gestures_.copy);
+    if (event->matches(QKeySequence::SelectAll)) return Tell(gestures_.selectAll);
+    if (IsMenuKey(*event)) return OpenMenuByKey();
+    const Gesture gesture(*this);
+    BeginAtTheFirstRow(*event);
+    const QPersistentModelIndex before(currentIndex());
+    QTableView::keyPressEvent(event);
+    // At the end of its way a key still means that one row.
+    if (!IsMove(*event) || currentIndex() != before) return;
+    selectionModel()->select(before, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  });
+}
+
+void ListPane::keyboardSearch(const QString& search) {
+  Guarded([&] {
+    const auto row = typed_.Type(search).FindRow(list_, list_.SelectedItem());
+    if (!row) return;
+    const Gesture gesture(*this);
+    selectionModel()->setCurrentIndex(model_.index(static_cast<int>(*row), 0),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  });
+}
+
+// With the focus the first row becomes the current one without being selected; going down from it would pass it over.
+void ListPane::BeginAtTheFirstRow(const QKeyEvent& key) {
+  if (!IsMove(key)) return;
+  if (list_.SelectedItem() || currentIndex().row() != 0) return;
+  const QScopedValueRollback following(following_, true);
+  selectionModel()->clearCurrentIndex();
+}
+
+void ListPane::contextMenuEvent(QContextMenuEvent* event) {
+  Guarded([&] {
+    if (event->reason() == QContextMenuEvent::Keyboard && !IsPopupUp()) OpenMenuByKey();
   });
 }
 

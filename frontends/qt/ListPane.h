@@ -5,8 +5,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 
+#include "control/Enumerations.h"
 #include "qt/ListModel.h"
+#include "qt/TypeAhead.h"
 #include "widgets/ListView.h"
 
 namespace quorvel::qt {
@@ -16,6 +19,12 @@ struct ListGestures {
   std::function<void(std::size_t)> columnClick = {};  // on a header, counted from 1
   std::function<void()> doubleClick = {};             // on the row that is selected now
   std::function<void(std::int32_t)> keyDown = {};     // Enter, as key code 13; other keys are the list's own
+  std::function<void()> selectionChanged = {};        // once a gesture, when it has changed the selection
+  // After the left button has selected, before the right one selects anything. Without a row: on empty space. The keys
+  // for a menu are the right button on the selected row.
+  std::function<void(MouseButton, std::optional<std::size_t>)> mouseDown = {};
+  std::function<void()> copy = {};       // the keys for it
+  std::function<void()> selectAll = {};  // the same
 };
 
 // Which rows are selected is the list's to say; what the user selects is written to it as ranges.
@@ -35,6 +44,11 @@ class ListPane final : public QTableView, public widgets::ListObserver {
   void ListScrolled(const widgets::ListCorner& corner) override;
   widgets::ListCorner CornerInSight() const override;
 
+  // Where on the screen the menu belongs that was asked for last.
+  QPoint menuPlace() const { return menuPlace_; }
+
+  void keyboardSearch(const QString& search) override;
+
  protected:
   void initViewItemOption(QStyleOptionViewItem* option) const override;
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
@@ -46,18 +60,29 @@ class ListPane final : public QTableView, public widgets::ListObserver {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  class Gesture;
+
   void FollowHeaders();
   void FollowSelection();
   bool IsCurrentInSight() const;
   void WriteSelection();
+  void TellSelection();
+  void MouseDown(MouseButton button, const QModelIndex& index);
+  void OpenMenuByKey();
+  void BeginAtTheFirstRow(const QKeyEvent& key);
   void FitRowHeight();
 
   widgets::ListView& list_;
   ListGestures gestures_;
   ListModel model_;
-  bool following_ = false;      // what happens now comes from the list, not from the user
+  bool following_ = false;  // what happens now comes from the list, not from the user
+  int gestureDepth_ = 0;
+  bool selectionWritten_ = false;  // by the user; the owner hears of it when the gesture ends
+  QPoint menuPlace_;
+  TypedLetters typed_;
   bool doubleClicked_ = false;  // until the button comes up, which is still down over whatever the list shows now
 };
 

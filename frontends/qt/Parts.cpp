@@ -1,5 +1,6 @@
 #include "qt/Parts.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionSpinBox>
@@ -51,7 +52,7 @@ class StepButton final : public QToolButton {
 }  // namespace
 
 UpDownButtons::UpDownButtons(std::function<void(int)> step, const StepNames& names, QWidget* parent)
-    : QWidget(parent),
+    : Group(parent),
       up_(new StepButton(Qt::UpArrow, names.up, this)),
       down_(new StepButton(Qt::DownArrow, names.down, this)) {
   connect(up_, &QToolButton::clicked, this, [step] { Guarded([&] { step(+1); }); });
@@ -106,13 +107,48 @@ void SplitterGrip::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) Guarded([&] { gestures_.end(); });
 }
 
+void SplitterGrip::keyPressEvent(QKeyEvent* event) {
+  constexpr int kStep = 16;
+  Guarded([&] {
+    event->accept();
+    switch (event->key()) {
+      case Qt::Key_Left:
+        return MoveBy(-kStep);
+      case Qt::Key_Right:
+        return MoveBy(kStep);
+      case Qt::Key_Return:
+      case Qt::Key_Enter:
+      case Qt::Key_Escape:
+        return gestures_.leave();
+      default:
+        event->ignore();
+    }
+  });
+}
+
+void SplitterGrip::MoveBy(int pixels) {
+  gestures_.begin();
+  gestures_.move(pixels);
+  gestures_.end();
+}
+
+void SplitterGrip::focusInEvent(QFocusEvent* /*event*/) {
+  update();
+}
+
+void SplitterGrip::focusOutEvent(QFocusEvent* /*event*/) {
+  update();
+}
+
 void SplitterGrip::paintEvent(QPaintEvent* /*event*/) {
   Guarded([&] {
     // Three dots: enough to be found, too little to be looked at.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().color(QPalette::Disabled, QPalette::Text));
+    if (hasFocus()) painter.fillRect(rect(), palette().color(QPalette::Highlight));
+    painter.setBrush(hasFocus() ? palette().color(QPalette::HighlightedText)
+                                : palette().color(QPalette::Disabled, QPalette::Text));
     const QPointF centre = QRectF(rect()).center();
     for (const int dy : {-5, 0, 5}) painter.drawEllipse(centre + QPointF(0, dy), 1.1, 1.1);
   });

@@ -10,6 +10,12 @@ class QToolButton;
 
 namespace quorvel::qt {
 
+// A frame that belongs together for a screen reader too; its accessible name says as what.
+class Group : public QWidget {
+ public:
+  using QWidget::QWidget;
+};
+
 // What a screen reader says of the buttons of an up-down.
 struct StepNames {
   QString up;
@@ -17,7 +23,7 @@ struct StepNames {
 };
 
 // The two buttons of an up-down; they repeat while they are held.
-class UpDownButtons final : public QWidget {
+class UpDownButtons final : public Group {
  public:
   // `step` is called with +1 and -1.
   UpDownButtons(std::function<void(int)> step, const StepNames& names, QWidget* parent);
@@ -40,9 +46,9 @@ class OrderList final : public QListWidget {
 };
 
 // A frame whose caption stands along its top edge as the head of a section.
-class SectionFrame final : public QWidget {
+class SectionFrame final : public Group {
  public:
-  using QWidget::QWidget;
+  using Group::Group;
   // `height`: how much of the frame the caption has for itself.
   void SetCaption(const QString& caption, int height);
 
@@ -54,13 +60,15 @@ class SectionFrame final : public QWidget {
   int captionHeight_ = 0;
 };
 
-// The grip between two panes. Pixels are counted from its left edge.
+// The grip between two panes. Pixels are counted from its left edge. With the focus, which it gets from its owner
+// alone, Left and Right move it; Enter and Escape are the end of that.
 class SplitterGrip final : public QWidget {
  public:
   struct Gestures {
     std::function<void()> begin;
     std::function<void(int)> move;
     std::function<void()> end;
+    std::function<void()> leave;
   };
   SplitterGrip(Gestures gestures, QWidget* parent);
 
@@ -68,9 +76,14 @@ class SplitterGrip final : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void MoveBy(int pixels);
+
   Gestures gestures_;
 };
 

@@ -1,11 +1,13 @@
 #include "qt/ProcessLogWidget.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDateTimeEdit>
 #include <QFocusEvent>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +15,7 @@
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QWheelEvent>
 #include <algorithm>
@@ -20,11 +23,14 @@
 #include <type_traits>
 #include <utility>
 
+#include "qt/Accessibility.h"
 #include "qt/Contents.h"
 #include "qt/Convert.h"
+#include "qt/DetailDialog.h"
 #include "qt/Guard.h"
 #include "qt/ListPane.h"
 #include "qt/Parts.h"
+#include "qt/PopupMenu.h"
 #include "qt/TreePane.h"
 
 namespace quorvel::qt {
@@ -36,11 +42,14 @@ struct SpokenName {
   const char* name;
 };
 constexpr SpokenName kSpokenNames[] = {
+    {"fraOption", "Options"},
     {"sstProcessLog", "Views"},
     {"dtpHour", "Start, time of day"},
     {"updDuring", "Length of the period"},
     {"cboDuringUnit", "Unit of time"},
+    {"lstGroupBy", "Order"},
     {"updGroupBy", "Move in the group order"},
+    {"imgSplitter", "Width of the tree"},
     {"tvMotherList", "History"},
     {"lvMotherList", "Entries"},
     {"HScroll", "Scroll sideways"},
@@ -101,25 +110,6 @@ class StepKeys final : public QObject {
   std::function<void(int)> step_;
 };
 
-// Tells when a pane gets or loses the focus. A popup over it takes nothing away.
-class FocusWatch final : public QObject {
- public:
-  FocusWatch(QWidget& pane, std::function<void(bool)> moved) : QObject(&pane), moved_(std::move(moved)) {
-    pane.installEventFilter(this);
-  }
-
- protected:
-  bool eventFilter(QObject* /*pane*/, QEvent* event) override {
-    const bool got = event->type() == QEvent::FocusIn;
-    if (!got && event->type() != QEvent::FocusOut) return false;
-    if (static_cast<const QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) Guarded([&] { moved_(got); });
-    return false;
-  }
-
- private:
-  std::function<void(bool)> moved_;
-};
-
 // Tells when a field gets the focus by the keyboard.
 class KeyboardFocusWatch final : public QObject {
  public:
@@ -150,13 +140,6 @@ int NeighbourOf(const QTabBar& tabs, int by) {
   return tab;
 }
 
-// A slot that calls `body` with what the signal carries.
-template <class Sender, class Signal, class Body>
-void On(Sender* sender, Signal signal, QObject* context, Body body) {
-  QObject::connect(sender, signal, context,
-                   [body = std::move(body)](auto&&... values) { Guarded([&] { body(values...); }); });
-}
-
 }  // namespace
 
 ProcessLogWidget::ProcessLogWidget(datasource::RecordSourceFactory& factory, QWidget* parent)
@@ -168,9 +151,11 @@ ProcessLogWidget::ProcessLogWidget(datasource::RecordSourceFactory& factory, Pla
       control_(platform, factory),
       c_(control_.controls()),
       outer_(new QWidget(this)),
-      options_(new QWidget(outer_)),
+      options_(new Group(outer_)),
       section_(new SectionFrame(outer_)),
-      refresh_(new QAction(this)) {
+      refresh_(new QAction(this)),
+      scrollDown_(c_.Timer_ScrollDown_TV, [this] { control_.Timer_ScrollDown_TV_Timer(); }) {
+  OfferAccessibleRoles();
   Bind(c_.fraProcessLog, *outer_);
   Bind(c_.fraOption, *options_);
   MakeTabs();
@@ -180,15 +165,19 @@ ProcessLogWidget::ProcessLogWidget(datasource::RecordSourceFactory& factory, Pla
   MakeScrollBars();
   MakeRefresh();
   MakeTabKeys();
+  MakeSplitterKey();
   OrderTabKey();
   for (const SpokenName& each : kSpokenNames) {
     findChild<QWidget*>(QLatin1String(each.widget))->setAccessibleName(QLatin1String(each.name));
   }
+  MakeMenus();
+  new DetailDialog(control_.detail(), this);
 }
 
 ProcessLogWidget::~ProcessLogWidget() {
   // The widgets draw controls that are members, so they go first.
   bindings_.clear();
+  menus_.clear();
   qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
@@ -225,6 +214,22 @@ void ProcessLogWidget::Bind(widgets::Control& model, QWidget& widget, std::funct
   bindings_.push_back(std::make_unique<Binding>(model, widget, std::move(content)));
 }
 
+void ProcessLogWidget::Gesture(std::function<void()> make) {
+  if (!control_.AtWork()) return make();
+  waiting_ = std::move(make);
+  control_.AfterWork([this] {
+    if (const auto last = std::exchange(waiting_, nullptr)) last();
+  });
+}
+
+void ProcessLogWidget::GestureOn(widgets::NodeId node, void (ucProcessLog::*handler)(widgets::NodeId)) {
+  if (!control_.AtWork()) return (control_.*handler)(node);
+  Gesture([this, handler, key = c_.tvMotherList.Key(node)] {
+    const widgets::NodeId now = c_.tvMotherList.Find(key);
+    if (now != widgets::NodeId::kNone) (control_.*handler)(now);
+  });
+}
+
 template <class Widget, class Model>
 Widget* ProcessLogWidget::Make(Model& model, QWidget* parent) {
   auto* const widget = new Widget(parent);
@@ -239,7 +244,11 @@ void ProcessLogWidget::MakeTabs() {
   tabs->setElideMode(Qt::ElideNone);
   On(tabs, &QTabBar::currentChanged, this, [this, tabs](int tab) {
     if (tab < 0) return;
-    if (control_.AtWork()) return tabs->setCurrentIndex(static_cast<int>(c_.sstProcessLog.current()));
+    if (control_.AtWork()) {
+      const QSignalBlocker quiet(tabs);
+      tabs->setCurrentIndex(static_cast<int>(c_.sstProcessLog.current()));
+      return Gesture([tabs, tab] { tabs->setCurrentIndex(tab); });
+    }
     c_.sstProcessLog.SetCurrent(static_cast<std::size_t>(tab));
     control_.sstProcessLog_Click();
   });
@@ -254,7 +263,7 @@ void ProcessLogWidget::MakeOptions() {
   MakeCheckBox(c_.chkAlarmFilter, &ucProcessLog::chkAlarmFilter_Click);
   MakeGroupOrder();
   auto* const refresh = Make<QPushButton>(c_.cmdRefresh, options_);
-  On(refresh, &QPushButton::clicked, this, [this](bool) { control_.cmdRefresh_Click(); });
+  On(refresh, &QPushButton::clicked, this, [this](bool) { Gesture([this] { control_.cmdRefresh_Click(); }); });
 }
 
 void ProcessLogWidget::MakePeriodOptions() {
@@ -293,7 +302,7 @@ void ProcessLogWidget::MakeGroupOrder() {
 void ProcessLogWidget::MakeCheckBox(widgets::CheckBox& model, void (ucProcessLog::*click)()) {
   On(Make<QCheckBox>(model, options_), &QCheckBox::clicked, this, [this, &model, click](bool checked) {
     model.SetChecked(checked);
-    (control_.*click)();
+    Gesture([this, click] { (control_.*click)(); });
   });
 }
 
@@ -302,7 +311,7 @@ QComboBox* ProcessLogWidget::MakeCombo(widgets::ComboBox& model, void (ucProcess
   new WheelNeedsFocus(*combo);
   On(combo, &QComboBox::activated, this, [this, &model, click](int row) {
     model.Select(static_cast<std::size_t>(row));
-    (control_.*click)();
+    Gesture([this, click] { (control_.*click)(); });
   });
   return combo;
 }
@@ -335,29 +344,64 @@ QDateTimeEdit* ProcessLogWidget::MakePicker(widgets::DateTimePicker& model, cons
 void ProcessLogWidget::MakePanes() {
   Bind(c_.fraList, *section_,
        [this] { section_->SetCaption(ToQt(c_.fraList.text()), ToPixels(c_.tvMotherList.bounds().top)); });
-  tree_ = new TreePane(c_.tvMotherList,
-                       {.expand = [this](widgets::NodeId node) { control_.tvMotherList_Expand(node); },
-                        .collapse = [this](widgets::NodeId node) { control_.tvMotherList_Collapse(node); },
-                        .click = [this](widgets::NodeId node) { control_.tvMotherList_NodeClick(node); }},
-                       section_);
-  Bind(c_.tvMotherList, *tree_);
-  list_ = new ListPane(c_.lvMotherList,
-                       {.columnClick = [this](std::size_t column) { control_.lvMotherList_ColumnClick(column); },
-                        .doubleClick = [this] { control_.lvMotherList_DblClick(); },
-                        .keyDown = [this](std::int32_t keyCode) { control_.lvMotherList_KeyDown(keyCode); }},
-                       section_);
-  Bind(c_.lvMotherList, *list_);
-  new FocusWatch(*tree_,
-                 [this](bool got) { got ? control_.tvMotherList_GotFocus() : control_.tvMotherList_LostFocus(); });
-  new FocusWatch(*list_,
-                 [this](bool got) { got ? control_.lvMotherList_GotFocus() : control_.lvMotherList_LostFocus(); });
+  MakeTree();
+  MakeList();
+  WatchFocus();
   setFocusProxy(tree_);
+}
+
+// A popup takes the focus from no pane, nor does another window: the pane has it when this one is used again.
+void ProcessLogWidget::WatchFocus() {
+  On(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) {
+    const bool elsewhere = now == nullptr ? !isActiveWindow() : now->window() != window();
+    const QWidget* const pane = now == tree_ || now == list_ ? now : nullptr;
+    if (elsewhere || pane == paneWithFocus_) return;
+    const QWidget* const left = std::exchange(paneWithFocus_, pane);
+    if (left == tree_) control_.tvMotherList_LostFocus();
+    if (left == list_) control_.lvMotherList_LostFocus();
+    if (pane == tree_) control_.tvMotherList_GotFocus();
+    if (pane == list_) control_.lvMotherList_GotFocus();
+  });
+}
+
+void ProcessLogWidget::MakeTree() {
+  tree_ = new TreePane(
+      c_.tvMotherList,
+      {.expand = [this](widgets::NodeId node) { GestureOn(node, &ucProcessLog::tvMotherList_Expand); },
+       .collapse = [this](widgets::NodeId node) { control_.tvMotherList_Collapse(node); },
+       .click = [this](widgets::NodeId node) { GestureOn(node, &ucProcessLog::tvMotherList_NodeClick); },
+       .mouseUp = [this](MouseButton button, widgets::NodeId node) { control_.tvMotherList_MouseUp(button, node); }},
+      section_);
+  Bind(c_.tvMotherList, *tree_);
+}
+
+void ProcessLogWidget::MakeList() {
+  list_ =
+      new ListPane(c_.lvMotherList,
+                   {.columnClick = [this](std::size_t column) { control_.lvMotherList_ColumnClick(column); },
+                    .doubleClick = [this] { control_.lvMotherList_DblClick(); },
+                    .keyDown = [this](std::int32_t keyCode) { control_.lvMotherList_KeyDown(keyCode); },
+                    .selectionChanged = [this] { control_.lvMotherList_SelectionChanged(); },
+                    .mouseDown = [this](MouseButton button, auto row) { control_.lvMotherList_MouseDown(button, row); },
+                    .copy = [this] { control_.mnu_copy_Click(); },
+                    .selectAll = [this] { control_.mnu_select_all_Click(); }},
+                   section_);
+  Bind(c_.lvMotherList, *list_);
+}
+
+void ProcessLogWidget::MakeMenus() {
+  const auto pick = [this](std::int32_t command) { control_.m_MenuCall(command); };
+  menus_.push_back(std::make_unique<PopupMenu>(
+      c_.mnu_Popup, *list_, [this] { return list_->menuPlace(); }, pick));
+  menus_.push_back(std::make_unique<PopupMenu>(
+      c_.mnu_PopupTV, *tree_, [this] { return tree_->menuPlace(); }, pick));
 }
 
 void ProcessLogWidget::MakeSplitter() {
   auto* const grip = new SplitterGrip({.begin = [this] { control_.imgSplitter_MouseDown(); },
                                        .move = [this](int x) { control_.imgSplitter_MouseMove(ToTwips(x)); },
-                                       .end = [this] { control_.imgSplitter_MouseUp(); }},
+                                       .end = [this] { control_.imgSplitter_MouseUp(); },
+                                       .leave = [this] { tree_->setFocus(Qt::OtherFocusReason); }},
                                       section_);
   Bind(c_.imgSplitter, *grip);
   auto* const bar = new QWidget(section_);
@@ -392,7 +436,7 @@ void ProcessLogWidget::MakeRefresh() {
   refresh_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   addAction(refresh_);
   On(refresh_, &QAction::triggered, this, [this](bool) {
-    if (c_.cmdRefresh.enabled()) control_.cmdRefresh_Click();
+    if (c_.cmdRefresh.enabled()) Gesture([this] { control_.cmdRefresh_Click(); });
   });
 }
 
@@ -409,6 +453,18 @@ void ProcessLogWidget::MakeTabKeys() {
   };
   make({Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}, +1);
   make({Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Qt::CTRL | Qt::Key_PageUp}, -1);
+}
+
+void ProcessLogWidget::MakeSplitterKey() {
+  auto* const action = new QAction(this);
+  action->setShortcut(QKeySequence(Qt::Key_F8));
+  action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  addAction(action);
+  findChild<QWidget*>(ToQt(c_.imgSplitter.name()))->setAccessibleDescription("F8, then Left and Right");
+  On(action, &QAction::triggered, this, [this](bool) {
+    auto& grip = *findChild<QWidget*>(ToQt(c_.imgSplitter.name()));
+    grip.hasFocus() ? tree_->setFocus(Qt::ShortcutFocusReason) : grip.setFocus(Qt::ShortcutFocusReason);
+  });
 }
 
 void ProcessLogWidget::OrderTabKey() {
@@ -431,6 +487,7 @@ void ProcessLogWidget::OrderTabKey() {
     if (before != nullptr) setTabOrder(before, next);
     before = next;
   }
+  setTabOrder(list_, list_->horizontalHeader());
 }
 
 }  // namespace quorvel::qt

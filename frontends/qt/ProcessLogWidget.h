@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include "control/ucProcessLog.h"
 #include "qt/Binding.h"
 #include "qt/QtPlatform.h"
+#include "qt/TimerBinding.h"
 
 class QAction;
 class QComboBox;
@@ -17,7 +19,9 @@ class QScrollBar;
 
 namespace quorvel::qt {
 
+class Group;
 class ListPane;
+class PopupMenu;
 class SectionFrame;
 class TreePane;
 
@@ -52,11 +56,21 @@ class ProcessLogWidget final : public QWidget {
   void MakeGroupOrder();
   void MakeTabs();
   void MakePanes();
+  void WatchFocus();
+  void MakeTree();
+  void MakeList();
+  void MakeMenus();
   void MakeSplitter();
   void MakeScrollBars();
   void MakeRefresh();
   void MakeTabKeys();
+  void MakeSplitterKey();
   void OrderTabKey();
+  // Makes a gesture, which must mean the same whatever is shown then: at once or, where a component lets input through
+  // while it works, when the control has done what it is at. Of several that come meanwhile the last one is made.
+  void Gesture(std::function<void()> make);
+  // The same for a gesture on a node, if the tree still has it then.
+  void GestureOn(widgets::NodeId node, void (ucProcessLog::*handler)(widgets::NodeId));
   // Scrolls the viewer, where it is smaller than its content, until this field is seen.
   void BringIntoSight(const QWidget& field);
 
@@ -72,14 +86,18 @@ class ProcessLogWidget final : public QWidget {
   ucProcessLog control_;
   ProcessLogControls& c_;
   QWidget* outer_;
-  QWidget* options_;
+  Group* options_;
   SectionFrame* section_;
   TreePane* tree_ = nullptr;
   ListPane* list_ = nullptr;
+  const QWidget* paneWithFocus_ = nullptr;  // of this window, whichever window is used now
   QScrollBar* sideways_ = nullptr;
   QScrollBar* upAndDown_ = nullptr;
   QAction* refresh_;
   std::vector<std::unique_ptr<Binding>> bindings_;
+  TimerBinding scrollDown_;
+  std::function<void()> waiting_;  // the gesture to make when the control is done
+  std::vector<std::unique_ptr<PopupMenu>> menus_;
 };
 
 }  // namespace quorvel::qt

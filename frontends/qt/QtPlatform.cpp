@@ -2,9 +2,12 @@
 
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProcess>
 #include <QStatusBar>
 #include <QUrl>
 #include <string>
@@ -22,10 +25,15 @@ QtPlatform::~QtPlatform() {
 void QtPlatform::ShowMessage(std::string_view text, std::string_view title) {
   QMessageBox box(QMessageBox::NoIcon, ToQt(title), ToQt(text), QMessageBox::Ok, widget_ ? widget_->window() : nullptr);
   box.setTextFormat(Qt::PlainText);
-  // Nobody should look for the button with an hourglass.
+  WithDefaultPointer([&] { box.exec(); });
+}
+
+// Nobody should look for a button with an hourglass.
+template <class Body>
+void QtPlatform::WithDefaultPointer(Body body) {
   const MousePointer pointer = pointer_;
   SetMousePointer(MousePointer::kDefault);
-  box.exec();
+  body();
   SetMousePointer(pointer);
 }
 
@@ -53,6 +61,25 @@ void QtPlatform::OpenFile(const std::filesystem::path& file) {
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(file.string())))) {
     throw Error(SystemError::kInvalidCall, file.string() + ": No program opens this file");
   }
+}
+
+// No desktop but Windows has a dialog of its own for this: the user shows the program itself, which gets the file as
+// its one argument, past any shell.
+void QtPlatform::OpenFileWith(const std::filesystem::path& file) {
+  const QString path = ToQt(file.string());
+  const QString title = QStringLiteral("Open %1 with").arg(QFileInfo(path).fileName());
+  QString program;
+  WithDefaultPointer([&] {
+    program = QFileDialog::getOpenFileName(widget_ ? widget_->window() : nullptr, title, QStringLiteral("/usr/bin"));
+  });
+  if (program.isEmpty()) return;
+  if (!QProcess::startDetached(program, {path})) {
+    throw Error(SystemError::kInvalidCall, FromQt(program) + ": The program does not start");
+  }
+}
+
+bool QtPlatform::IsEscapePressed() {
+  return escape_.IsPressed();
 }
 
 void QtPlatform::SetHostStatusText(std::string_view text) {

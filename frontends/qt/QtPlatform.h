@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "platform/StandardPlatform.h"
+#include "qt/EscapeWatch.h"
 
 namespace quorvel::qt {
 
@@ -24,11 +25,18 @@ class QtPlatform : public StandardPlatform {
   void ClearClipboard() override;
   void SetClipboardText(std::string_view text) override;
   void OpenFile(const std::filesystem::path& file) override;
+  void OpenFileWith(const std::filesystem::path& file) override;
+  bool IsEscapePressed() override;
   void SetHostStatusText(std::string_view text) override;
 
  private:
+  // While a person is asked.
+  template <class Body>
+  void WithDefaultPointer(Body body);
+
   QPointer<QWidget> widget_;
   MousePointer pointer_ = MousePointer::kDefault;
+  EscapeWatch escape_;
 };
 
 }  // namespace quorvel::qt

@@ -79,6 +79,8 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     switch (role) {
       case Qt::DisplayRole:
         return ToQt(tree_.Text(node));
+      case Qt::AccessibleTextRole:
+        return SpokenText(tree_.Text(node), tree_.Image(node));
       case Qt::DecorationRole:
         return icons_.Of({tree_.Image(node), tree_.ExpandedImage(node), tree_.SelectedImage(node)});
       case Qt::ForegroundRole:

@@ -34,6 +34,8 @@ class TreeModel final : public QAbstractItemModel {
   int columnCount(const QModelIndex& /*parent*/) const override { return 1; }
   bool hasChildren(const QModelIndex& parent) const override;
   QVariant data(const QModelIndex& index, int role) const override;
+  // The header is never seen; a number in its place would only be read out.
+  QVariant headerData(int /*section*/, Qt::Orientation /*orientation*/, int /*role*/) const override { return {}; }
 
  private:
   // A change that the tree has made and Qt has not heard of yet: the children of one node as they were before.

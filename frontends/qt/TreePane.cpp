@@ -1,5 +1,6 @@
 #include "qt/TreePane.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -11,6 +12,7 @@
 
 #include "qt/Guard.h"
 #include "qt/ItemDelegate.h"
+#include "qt/MenuKeys.h"
 
 namespace quorvel::qt {
 
@@ -105,6 +107,11 @@ NodeId TreePane::TopNode() const {
   return verticalScrollBar()->value() == 0 ? NodeId::kNone : model_.NodeOf(indexAt({0, 0}));
 }
 
+bool TreePane::SeesNode(NodeId node) const {
+  const QRect line = visualRect(model_.IndexOf(node));
+  return line.isValid() && line.top() >= 0 && line.bottom() < viewport()->height();
+}
+
 void TreePane::FollowExpansion(const QModelIndex& index) {
   const QScopedValueRollback following(following_, true);
   const NodeId node = model_.NodeOf(index);
@@ -183,6 +190,17 @@ void TreePane::Click(const QModelIndex& index) {
   FollowSelection();
 }
 
+void TreePane::ClickUnlessSelected(const QModelIndex& index) {
+  if (!following_ && !inGesture_ && model_.NodeOf(index) != tree_.Selected()) Click(index);
+}
+
+// On the node that is selected, which was clicked when it became so.
+void TreePane::OpenMenuByKey() {
+  if (currentIndex().isValid()) scrollTo(currentIndex());
+  menuPlace_ = viewport()->mapToGlobal(BelowText(*this, currentIndex()));
+  if (gestures_.mouseUp) gestures_.mouseUp(MouseButton::kRight, NodeId::kNone);
+}
+
 void TreePane::initViewItemOption(QStyleOptionViewItem* option) const {
   Guarded([&] {
     QTreeView::initViewItemOption(option);
@@ -193,7 +211,15 @@ void TreePane::initViewItemOption(QStyleOptionViewItem* option) const {
 void TreePane::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   Guarded([&] {
     QTreeView::currentChanged(current, previous);
-    if (!following_ && !inGesture_) Click(current);
+    ClickUnlessSelected(current);
+  });
+}
+
+// Screen readers select without going anywhere.
+void TreePane::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  Guarded([&] {
+    QTreeView::selectionChanged(selected, deselected);
+    if (!selected.isEmpty()) ClickUnlessSelected(selected.first().topLeft());
   });
 }
 
@@ -205,6 +231,8 @@ QItemSelectionModel::SelectionFlags TreePane::selectionCommand(const QModelIndex
 
 void TreePane::mousePressEvent(QMouseEvent* event) {
   Guarded([&] {
+    // The owner selects what the right button comes up over.
+    if (event->button() == Qt::RightButton) return;
     const QPersistentModelIndex before(currentIndex());
     {
       const QScopedValueRollback gesture(inGesture_, true);
@@ -220,8 +248,33 @@ void TreePane::mouseMoveEvent(QMouseEvent* event) {
   if (event->buttons() == Qt::NoButton) QTreeView::mouseMoveEvent(event);
 }
 
+void TreePane::mouseReleaseEvent(QMouseEvent* event) {
+  Guarded([&] {
+    if (event->button() != Qt::RightButton) return QTreeView::mouseReleaseEvent(event);
+    menuPlace_ = event->globalPosition().toPoint();
+    const NodeId node = model_.NodeOf(indexAt(event->position().toPoint()));
+    if (gestures_.mouseUp) gestures_.mouseUp(MouseButton::kRight, node);
+  });
+}
+
+void TreePane::keyboardSearch(const QString& search) {
+  Guarded([&] {
+    const NodeId node = typed_.Type(search).FindNode(tree_, tree_.Selected());
+    if (node != NodeId::kNone) setCurrentIndex(model_.IndexOf(node));
+  });
+}
+
+void TreePane::contextMenuEvent(QContextMenuEvent* event) {
+  Guarded([&] {
+    if (event->reason() == QContextMenuEvent::Keyboard && !IsPopupUp()) OpenMenuByKey();
+  });
+}
+
 void TreePane::keyPressEvent(QKeyEvent* event) {
   Guarded([&] {
+    if (IsMenuKey(*event)) return OpenMenuByKey();
+    // Copying is for the rows of the list; the view would put the text of the node on the clipboard.
+    if (event->matches(QKeySequence::Copy)) return event->ignore();
     // Opens what there is: to load a whole history level by level is nothing that one key should start.
     if (event->key() == Qt::Key_Asterisk && currentIndex().isValid()) return OpenLoaded(currentIndex());
     const QPersistentModelIndex before(currentIndex());

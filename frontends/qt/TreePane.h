@@ -4,7 +4,9 @@
 #include <QTreeView>
 #include <functional>
 
+#include "control/Enumerations.h"
 #include "qt/TreeModel.h"
+#include "qt/TypeAhead.h"
 #include "widgets/TreeView.h"
 
 namespace quorvel::qt {
@@ -14,6 +16,9 @@ struct TreeGestures {
   std::function<void(widgets::NodeId)> expand;
   std::function<void(widgets::NodeId)> collapse;
   std::function<void(widgets::NodeId)> click;  // once a gesture, by mouse or keyboard; also on the node selected before
+  // The right button came up over a node, which it has not selected yet, or over none. The keys for a menu are the
+  // right button over none.
+  std::function<void(MouseButton, widgets::NodeId)> mouseUp = {};
 };
 
 // Which nodes are open and which is selected is the tree's to say; what is seen follows it.
@@ -36,14 +41,23 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   void TreeSelectionChanged() override;
   void TreeScrolled(widgets::NodeId top) override;
   widgets::NodeId TopNode() const override;
+  bool SeesNode(widgets::NodeId node) const override;
+
+  // Where on the screen the menu belongs that was asked for last.
+  QPoint menuPlace() const { return menuPlace_; }
+
+  void keyboardSearch(const QString& search) override;
 
  protected:
   void initViewItemOption(QStyleOptionViewItem* option) const override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void updateGeometries() override;
 
@@ -52,6 +66,8 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   void OpenedByUser(const QModelIndex& index, bool open);
   void OpenLoaded(const QModelIndex& top);
   void Click(const QModelIndex& index);
+  void ClickUnlessSelected(const QModelIndex& index);
+  void OpenMenuByKey();
 
   // What the tree says.
   void FollowExpansion(const QModelIndex& index);
@@ -65,6 +81,8 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   TreeModel model_;
   bool following_ = false;  // what happens now comes from the tree, not from the user
   int followed_ = 0;        // nodes opened and closed since the last painting
+  QPoint menuPlace_;
+  TypedLetters typed_;
   bool inGesture_ = false;  // an event handler says at its end which node was clicked
 };
 

@@ -2,12 +2,18 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <chrono>
 #include <fstream>
 
 #include "console/Console.h"
 #include "console/ConsoleOptions.h"
 #include "console/HistorySession.h"
+#include "console/ReadingNotice.h"
+#include "datasource/Contract.h"
 #include "qt/TreePane.h"
 #include "support/SmallHistory.h"
 
@@ -92,6 +98,68 @@ TEST_F(SessionTest, StaysUsableWhateverItIsAskedToOpen) {
   EXPECT_FALSE(session.ChooseTab("No such tab"));
   EXPECT_THAT(GetCapturedStderr(), HasSubstr("No such tab"));
   EXPECT_TRUE(session.ChooseTab("Processes"));
+}
+
+class ReadingTest : public testing::Test {
+ protected:
+  static constexpr std::chrono::milliseconds kAtOnce{0};
+
+  void WaitUntilLong() {
+    QElapsedTimer clock;
+    clock.start();
+    while (!clock.hasExpired(310)) notice.Show({"GetAlarms", kAtOnce});
+  }
+
+  QLabel panel;
+  ReadingNotice notice{panel};
+};
+
+TEST_F(ReadingTest, IsToldOfALongRequestUntilItEnds) {
+  notice.Begin();
+  notice.Show({"GetProcessLogs", kAtOnce});
+  EXPECT_EQ(panel.text(), "") << "nobody waits yet";
+  WaitUntilLong();
+  EXPECT_EQ(panel.text(), "Reading alarms...") << "many short queries are one request";
+  notice.Show({"GetProcessLogs", kAtOnce});
+  EXPECT_EQ(panel.text(), "Reading runs...");
+  notice.Begin();
+  notice.Show({"StopExecution", kAtOnce});
+  EXPECT_EQ(panel.text(), "Reading runs...") << "reads nothing";
+  QCoreApplication::processEvents();
+  EXPECT_EQ(panel.text(), "");
+  notice.Show({"GetProcessLogs", kAtOnce});
+  EXPECT_EQ(panel.text(), "") << "another request";
+}
+
+class PaintWatch final : public QObject {
+ public:
+  int paints = 0;
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++paints;
+    return false;
+  }
+};
+
+TEST_F(ReadingTest, IsPaintedWithoutALookAtTheInput) {
+  panel.resize(300, 30);
+  panel.show();
+  QCoreApplication::processEvents();
+  PaintWatch watch;
+  QLineEdit field;
+  panel.installEventFilter(&watch);
+  QCoreApplication::postEvent(&field, new QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a"));
+  WaitUntilLong();
+  EXPECT_EQ(panel.text(), "Reading alarms...");
+  EXPECT_EQ(watch.paints, 1);
+  EXPECT_EQ(field.text(), "");
+}
+
+TEST(ReadingWords, StandForEveryQueryThatReadsRows) {
+  for (const datasource::QueryContract& contract : datasource::Queries()) {
+    EXPECT_EQ(WordsFor(contract.query).isEmpty(), contract.columns.empty()) << contract.query;
+  }
 }
 
 TEST_F(SessionTest, WritesAPictureOfItself) {

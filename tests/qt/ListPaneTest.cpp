@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QHeaderView>
 #include <QProxyStyle>
 #include <QScrollBar>
@@ -81,9 +82,11 @@ class ListPaneTest : public testing::Test {
     list.Reorder(std::move(rows));
   }
   std::string Heard() { return std::exchange(heard, ""); }
+  std::string Told() { return std::exchange(told, ""); }
 
   widgets::ListView list{"list"};
   std::string heard;
+  std::string told;                     // of presses and selections, which are part of other gestures
   std::function<void()> onDoubleClick;  // what the owner does then
   ListPane pane{list,
                 {.columnClick = [this](std::size_t column) { heard += "column " + std::to_string(column) + " "; },
@@ -92,7 +95,18 @@ class ListPaneTest : public testing::Test {
                        heard += "double " + std::to_string(list.SelectedItem().value()) + " ";
                        if (onDoubleClick) onDoubleClick();
                      },
-                 .keyDown = [this](std::int32_t key) { heard += "key " + std::to_string(key) + " "; }}};
+                 .keyDown = [this](std::int32_t key) { heard += "key " + std::to_string(key) + " "; },
+                 .selectionChanged = [this] { told += "selection "; },
+                 .mouseDown =
+                     [this](MouseButton button, std::optional<std::size_t> row) {
+                       told += button == MouseButton::kLeft ? "left " : "right ";
+                       told += row ? std::to_string(*row) + " " : "nowhere ";
+                     },
+                 .copy = [this] { told += "copy "; },
+                 .selectAll =
+                     [this] {
+                       list.SetSelection(RowRanges(widgets::RowRange{0, list.Count()}));
+                     }}};
 };
 
 TEST_F(ListPaneTest, ShowsAMillionRowsAtOnce) {
@@ -296,6 +310,100 @@ TEST_F(ListPaneTest, DrawsTheFirstLineOfACell) {
   EXPECT_EQ(shown("\r\n"), "");
   EXPECT_EQ(shown(QString(1000, 'x')).size(), 1000);
   EXPECT_EQ(shown(QString(1001, 'x')).right(2), "x…");
+}
+
+TEST_F(ListPaneTest, TellsOfASelectionOnceAGesture) {
+  Fill(10);
+  const QPoint below(5, pane.viewport()->height() - 2);
+  ClickRow(2);
+  EXPECT_EQ(Told(), "selection left 2 ") << "selected first, then told of the button";
+  ClickRow(2);
+  EXPECT_EQ(Told(), "left 2 ") << "nothing changed";
+  ClickRow(4, Qt::ShiftModifier);
+  EXPECT_EQ(Told(), "selection left 4 ");
+  ClickRow(3, Qt::ControlModifier);
+  EXPECT_EQ(Told(), "selection left 3 ");
+  QTest::keyClick(&pane, Qt::Key_Home);
+  EXPECT_EQ(Told(), "selection ");
+  QTest::mouseClick(pane.viewport(), Qt::LeftButton, {}, below);
+  EXPECT_EQ(Told(), "left nowhere selection ") << "the selection goes when the button comes up";
+  QTest::keyClick(&pane, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(Told(), "copy ");
+  list.SetSelection(RowRanges(widgets::RowRange{5, 6}));
+  EXPECT_EQ(Told(), "") << "what the owner selects it knows";
+}
+
+TEST_F(ListPaneTest, LeavesTheRightButtonToTheOwner) {
+  Fill(10);
+  ClickRow(1);
+  ClickRow(3, Qt::ShiftModifier);
+  Told();
+  for (const int row : {2, 7}) QTest::mouseClick(pane.viewport(), Qt::RightButton, {}, PlaceOf(row));
+  QTest::mouseDClick(pane.viewport(), Qt::RightButton, {}, PlaceOf(8));
+  EXPECT_EQ(Told(), "right 2 right 7 right 8 ");
+  EXPECT_EQ(list.Selection(), RowRanges(widgets::RowRange{1, 4}));
+  EXPECT_EQ(pane.menuPlace(), pane.viewport()->mapToGlobal(PlaceOf(8)));
+  // By key on the selected item, which comes into sight; a window system may send both the key and an event of its own.
+  Fill(100);
+  list.SetSelection(RowRanges(widgets::RowRange{60, 61}));
+  pane.scrollToTop();
+  QTest::keyClick(&pane, Qt::Key_Menu);
+  QTest::keyClick(&pane, Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_EQ(Told(), "right 60 right 60 ");
+  EXPECT_TRUE(pane.viewport()->rect().contains(pane.viewport()->mapFromGlobal(pane.menuPlace())));
+}
+
+TEST_F(ListPaneTest, GoesToARowByWhatItBeginsWith) {
+  const auto rows = Fill(1'000'000);
+  pane.setFocus();
+  QTest::keyClicks(&pane, "4321");
+  EXPECT_EQ(list.SelectedItem(), 4321U);
+  EXPECT_LE(rows->asked, 5000U) << "from the present row on, the first column alone";
+  rows->asked = 0;
+  QTest::keyClicks(&pane, "x");
+  EXPECT_EQ(list.SelectedItem(), 4321U);
+  EXPECT_LE(rows->asked, 1'000'100U) << "each row once";
+  EXPECT_EQ(Told(), "selection selection selection selection ");
+}
+
+TEST_F(ListPaneTest, ItsHeaderIsReachedAndUsedByKey) {
+  Fill(5, 8);
+  pane.activateWindow();
+  pane.setFocus();
+  QTest::keyClick(&pane, Qt::Key_Tab);
+  QHeaderView& header = *pane.horizontalHeader();
+  ASSERT_TRUE(header.hasFocus());
+  const QImage onTheFirst = header.grab().toImage();
+  QTest::keyClick(&header, Qt::Key_Right);
+  EXPECT_NE(header.grab().toImage(), onTheFirst) << "one sees where one is";
+  QTest::keyClick(&header, Qt::Key_Right);
+  QTest::keyClick(&header, Qt::Key_Space);
+  EXPECT_EQ(Heard(), "column 3 ");
+  EXPECT_EQ(header.accessibleName(), "Column 2") << "its caption is said";
+  const int width = header.sectionSize(2);
+  QTest::keyClick(&header, Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(header.sectionSize(2), width + 10);
+  EXPECT_EQ(list.headers()[2].width, (width + 10) * widgets::kTwipsPerPixel);
+  QTest::keyClick(&header, Qt::Key_End);
+  EXPECT_GT(pane.horizontalScrollBar()->value(), 0);
+  QTest::keyClick(&header, Qt::Key_Home);
+  EXPECT_EQ(pane.horizontalScrollBar()->value(), 0);
+  list.SetHeaders({});
+  QTest::keyClick(&header, Qt::Key_End);
+  QTest::keyClick(&header, Qt::Key_Space);
+  EXPECT_EQ(Heard(), "") << "there is no column";
+}
+
+TEST_F(ListPaneTest, SaysWhatTheIconsShow) {
+  const auto rows = Fill(1'000'000);
+  list.SetSelection(RowRanges(widgets::RowRange{1, 1'000'000}));
+  QAccessibleInterface& table = *QAccessible::queryAccessibleInterface(&pane);
+  QAccessibleInterface& cell = *table.tableInterface()->cellAt(999'999, 0);
+  EXPECT_EQ(cell.text(QAccessible::Name), "999999.0, OK") << "with what the icon shows";
+  EXPECT_TRUE(cell.state().selected);
+  EXPECT_EQ(table.tableInterface()->cellAt(0, 1)->text(QAccessible::Name), "0.1");
+  EXPECT_FALSE(table.tableInterface()->cellAt(0, 1)->state().selected);
+  EXPECT_LE(rows->asked, 1000U) << "of what is not on the screen no more than that";
 }
 
 }  // namespace

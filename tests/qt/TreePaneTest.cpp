@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QTest>
 #include <random>
 #include <string>
@@ -44,6 +45,10 @@ class TreePaneTest : public testing::Test {
                 [this](NodeId node) {
                   heard += "click " + std::string(tree.Key(node)) + " ";
                   tree.Select(node);
+                },
+            .mouseUp =
+                [this](MouseButton /*button*/, NodeId node) {
+                  heard += "right " + (node == NodeId::kNone ? "nowhere " : std::string(tree.Key(node)) + " ");
                 }};
   }
 
@@ -210,6 +215,33 @@ TEST_F(TreePaneTest, PaintsABatchOnceAndKeepsItsPlace) {
   // A selection below closed nodes opens nothing: that is for the owner to say.
   tree.InBatch([&] { tree.Select(tree.Child(tree.Find("151"), 0)); });
   EXPECT_FALSE(pane.isExpanded(pane.nodes().IndexOf(tree.Find("151"))));
+}
+
+TEST_F(TreePaneTest, LeavesTheRightButtonAndTheKeysForAMenuToTheOwner) {
+  for (const char* key : {"a", "b"}) tree.Add(NodeId::kNone, key, key, "Process");
+  PressOn("a");
+  TakeHeard();
+  const QPoint onB = pane.visualRect(pane.nodes().IndexOf(tree.Find("b"))).center();
+  QTest::mousePress(pane.viewport(), Qt::RightButton, {}, onB);
+  EXPECT_EQ(TakeHeard(), "");
+  QTest::mouseRelease(pane.viewport(), Qt::RightButton, {}, onB);
+  QTest::mouseClick(pane.viewport(), Qt::RightButton, {}, {5, pane.viewport()->height() - 2});
+  EXPECT_EQ(TakeHeard(), "right b right nowhere ");
+  EXPECT_EQ(tree.Selected(), tree.Find("a"));
+  Key(Qt::Key_Menu);
+  EXPECT_EQ(TakeHeard(), "right nowhere ") << "the node that is selected was clicked already";
+}
+
+TEST_F(TreePaneTest, ANodeThatAScreenReaderSelectsIsClicked) {
+  for (const char* key : {"a", "b"}) tree.Add(NodeId::kNone, key, key, "ProcessNONOK");
+  PressOn("a");
+  TakeHeard();
+  QAccessibleInterface& seen = *QAccessible::queryAccessibleInterface(&pane);
+  QAccessibleInterface& node = *seen.tableInterface()->cellAt(1, 0);
+  EXPECT_EQ(node.text(QAccessible::Name), "b, Not OK");
+  node.actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(TakeHeard(), "click b ");
+  EXPECT_EQ(Seen(), " a\n b*\n");
 }
 
 }  // namespace

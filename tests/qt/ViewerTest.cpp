@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -16,7 +17,9 @@
 #include <QTest>
 #include <QToolButton>
 #include <QWheelEvent>
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "qt/Guard.h"
 #include "qt/ListPane.h"
@@ -254,6 +257,111 @@ TEST_F(ViewerTest, AFieldReachedByKeyIsBroughtIntoSight) {
   refresh.setFocus(Qt::TabFocusReason);
   EXPECT_TRUE(inSight());
   EXPECT_GT(controls().HScroll.value(), 0);
+}
+
+TEST_F(ViewerTest, AMenuComesUpByKeyAndIsUsedByKey) {
+  viewer->tree().setFocus();
+  QTest::keyClick(&viewer->tree(), Qt::Key_Menu);
+  auto& menu = Find<QMenu>("mnu_PopupTV");
+  ASSERT_TRUE(menu.isVisible());
+  EXPECT_TRUE(controls().mnu_PopupTV.open());
+  QTest::keyClick(&menu, Qt::Key_Escape);
+  EXPECT_FALSE(controls().mnu_PopupTV.open()) << "it went away by itself";
+  QTest::keyClick(&viewer->tree(), Qt::Key_Menu);
+  EXPECT_TRUE(menu.isVisible()) << "and comes again";
+  controls().mnu_PopupTV.Close();
+  EXPECT_FALSE(menu.isVisible());
+  QTest::keyClick(&viewer->list(), Qt::Key_F10, Qt::ShiftModifier);
+  auto& listMenu = Find<QMenu>("mnu_Popup");
+  ASSERT_TRUE(listMenu.isVisible());
+  EXPECT_TRUE(controls().lvMotherList.Selection().empty());
+  QTest::keyClick(&listMenu, Qt::Key_L);  // the access key of "Select all"
+  EXPECT_FALSE(listMenu.isVisible());
+  EXPECT_EQ(controls().lvMotherList.Selection().Count(), controls().lvMotherList.Count());
+}
+
+TEST_F(ViewerTest, TheSplitterMovesByKey) {
+  viewer->list().setFocus();
+  const int before = viewer->tree().width();
+  QTest::keyClick(&viewer->list(), Qt::Key_F8);
+  auto& grip = Find<QWidget>("imgSplitter");
+  ASSERT_TRUE(grip.hasFocus());
+  QTest::keyClick(&grip, Qt::Key_Right);
+  QTest::keyClick(&grip, Qt::Key_Right);
+  QTest::keyClick(&grip, Qt::Key_Left);
+  EXPECT_EQ(viewer->tree().width(), before + 16);
+  QTest::keyClick(&grip, Qt::Key_Escape);
+  EXPECT_TRUE(viewer->tree().hasFocus());
+}
+
+// Input while the control reads the runs of the second process, which was clicked.
+class SecondClickTest : public ViewerTest {
+ protected:
+  SecondClickTest() {
+    viewer->tree().expand(Process(0));
+    QCoreApplication::processEvents();
+    history.calls.clear();
+  }
+  QModelIndex Process(int row) { return viewer->tree().model()->index(row, 0); }
+  QPoint PlaceOf(const QModelIndex& index) { return viewer->tree().visualRect(index).center(); }
+  // As it comes from the window system: it waits until somebody looks.
+  void PostClick(const QModelIndex& index) {
+    QWidget* const pane = viewer->tree().viewport();
+    const QPointF place = PlaceOf(index);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      const Qt::MouseButton down = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+      QCoreApplication::postEvent(
+          pane, new QMouseEvent(type, place, pane->mapToGlobal(place), Qt::LeftButton, down, Qt::NoModifier));
+    }
+  }
+  void ClickSecondProcess(const std::function<void()>& meanwhile) {
+    bool done = false;
+    history.onCall = [&] {
+      if (!viewer->control().AtWork() || std::exchange(done, true)) return;
+      meanwhile();
+    };
+    QTest::mouseClick(viewer->tree().viewport(), Qt::LeftButton, {}, PlaceOf(Process(1)));
+    EXPECT_TRUE(done);
+    history.onCall = nullptr;
+  }
+  std::ptrdiff_t Asked(const std::string& call) { return std::ranges::count(history.calls, call); }
+  std::string_view Selected() { return controls().tvMotherList.Key(controls().tvMotherList.Selected()); }
+};
+
+TEST_F(SecondClickTest, IsHandledOnceWhenTheFirstIsDone) {
+  ClickSecondProcess([&] { PostClick(Process(0)); });
+  EXPECT_EQ(Selected(), "LPROC|30");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Selected(), "LPROC|12");
+  EXPECT_EQ(viewer->tree().currentIndex(), Process(0));
+  EXPECT_EQ(Asked("GetProcessLogByProcess 30"), 1);
+  EXPECT_EQ(Asked("GetProcessLogByProcess 12"), 1);
+}
+
+TEST_F(SecondClickTest, WaitsWhereTheComponentLetsItThrough) {
+  ClickSecondProcess([&] {
+    PostClick(Process(0));
+    PostClick(Process(0).model()->index(0, 0, Process(0)));
+    QCoreApplication::processEvents();
+  });
+  EXPECT_EQ(Selected(), "LPROC|12|0|345") << "of two clicks the last one";
+  EXPECT_EQ(viewer->list().model()->index(0, 0).data().toString(), "OK : 100% (1)");
+  EXPECT_EQ(Asked("GetProcessLogByProcess 30"), 1);
+  EXPECT_EQ(Asked("GetProcessLogByProcess 12"), 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Selected(), "LPROC|12|0|345");
+}
+
+TEST_F(SecondClickTest, MayBeOnATab) {
+  auto& tabs = Find<QTabBar>("sstProcessLog");
+  ClickSecondProcess([&] {
+    tabs.setCurrentIndex(1);
+    EXPECT_EQ(tabs.currentIndex(), 0) << "until the control is done";
+  });
+  EXPECT_EQ(tabs.currentIndex(), 1);
+  EXPECT_EQ(controls().sstProcessLog.currentCaption(), "Users");
+  EXPECT_EQ(std::ranges::count_if(history.calls, [](auto& call) { return call.starts_with("GetProcessLogByUser"); }),
+            1);
 }
 
 TEST(QtPlatform, WritesIntoTheHostsFirstPanelWhenThereIsOne) {
