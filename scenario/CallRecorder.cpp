@@ -39,4 +39,10 @@ std::string ArgumentText(std::string_view value) {
   return '"' + Escaped(value) + '"';
 }
 
+std::string ArgumentText(std::span<const std::int32_t> values) {
+  std::string text = "[";
+  for (const std::int32_t value : values) text.append(text.size() > 1 ? " " : "").append(std::to_string(value));
+  return text + "]";
+}
+
 }  // namespace quorvel::scenario

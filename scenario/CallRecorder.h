@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -39,5 +40,6 @@ std::string ArgumentText(std::int32_t value);
 std::string ArgumentText(DateValue value);
 std::string ArgumentText(bool value);
 std::string ArgumentText(std::string_view value);
+std::string ArgumentText(std::span<const std::int32_t> values);
 
 }  // namespace quorvel::scenario

@@ -15,9 +15,11 @@ using datasource::QueryContract;
 constexpr std::string_view kComponent = "clRecordHub.";
 constexpr std::string_view kCreate = "Create";
 
-constexpr std::array<std::string_view, 9> kPlatformCalls{"ShowMessage",      "SetMousePointer", "ClearClipboard",
-                                                         "SetClipboardText", "OpenFile",        "SetHostStatusText",
-                                                         "TemporaryFolder",  "DeleteFile",      "RenameFile"};
+constexpr std::array<std::string_view, 19> kPlatformCalls{
+    "ShowMessage",  "SetMousePointer", "ClearClipboard",  "SetClipboardText",  "OpenFile",
+    "OpenFileWith", "FileExists",      "IsEscapePressed", "SetHostStatusText", "Now",
+    "FormatDate",   "ParseDate",       "TemporaryFolder", "DeleteFile",        "RenameFile",
+    "ToFileText",   "OperatingSystem", "CurrentAccount",  "CurrentUser"};
 
 bool IsQuery(std::string_view name) {
   return std::ranges::find(datasource::Queries(), name, &QueryContract::query) != datasource::Queries().end();
@@ -50,6 +52,7 @@ void Faults::Answer(std::string_view name, std::int32_t nth, std::int32_t status
 }
 
 std::optional<std::int32_t> Faults::Use(std::string_view name) {
+  if (watcher_) watcher_(name);
   const std::optional<std::int32_t> failure = Count(failures_, name);
   const std::optional<std::int32_t> status = Count(statuses_, name);
   if (failure) throw Error(*failure, "Scenario", std::string(name) + " fails because the script says so");

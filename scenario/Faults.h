@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quorvel::scenario {
@@ -17,6 +19,10 @@ class Faults {
   // ScriptError when there is nothing of that name.
   void Fail(std::string_view name, std::int32_t nth, std::int32_t number);
   void Answer(std::string_view name, std::int32_t nth, std::int32_t status);
+
+  // From now on hears the name of each use first, also of those that no script can name; what it raises is what the
+  // use raises.
+  void Watch(std::function<void(std::string_view name)> watcher) { watcher_ = std::move(watcher); }
 
   // Counts one use. Raises the error that was asked for, else gives the status that was asked for.
   std::optional<std::int32_t> Use(std::string_view name);
@@ -33,6 +39,7 @@ class Faults {
 
   std::vector<Wish> failures_;
   std::vector<Wish> statuses_;
+  std::function<void(std::string_view name)> watcher_;
 };
 
 }  // namespace quorvel::scenario

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "scenario/Commands.h"
+#include "scenario/DetailCommands.h"
 #include "scenario/Values.h"
 #include "scenario/ViewerControls.h"
 
@@ -13,7 +14,21 @@ namespace {
 
 using widgets::NodeId;
 
+ProcessLogControls& Controls(Session& session) {
+  return session.viewer().viewer().controls();
+}
+
+// The popup menu that is up, else nullptr.
+widgets::Menu* OpenMenu(Session& session) {
+  for (widgets::Menu* const menu : {&Controls(session).mnu_Popup, &Controls(session).mnu_PopupTV}) {
+    if (session.viewer().Look(*menu).open) return menu;
+  }
+  return nullptr;
+}
+
 void RequireUsable(Session& session, const widgets::Control& control) {
+  RequireNoDialog(session);
+  if (OpenMenu(session) != nullptr) throw ScriptError("A menu is open: pick an entry, or press Escape");
   const SeenControl seen = session.viewer().Look(control);
   if (!seen.visible) throw ScriptError("Nobody can see " + control.name());
   if (!seen.enabled) throw ScriptError("Nobody can use " + control.name() + ", it is disabled");
@@ -26,10 +41,6 @@ Kind& UsableControl(Session& session, std::string_view name, std::string_view ki
   if (control == nullptr) throw ScriptError(std::string(name) + " is no " + std::string(kind));
   RequireUsable(session, *control);
   return *control;
-}
-
-ProcessLogControls& Controls(Session& session) {
-  return session.viewer().viewer().controls();
 }
 
 // The node of that key, at a place where it is not hidden below a closed one.
@@ -88,6 +99,7 @@ void Spin(Session& session, const std::string& name, const std::string& way) {
 
 void Press(Session& session, Arguments arguments, std::ostream& /*out*/) {
   if (arguments.size() == 2) return Spin(session, arguments[0], arguments[1]);
+  if (IsDialogOpen(session)) return PressInDialog(session, arguments[0]);
   session.viewer().Press(UsableControl<widgets::Button>(session, arguments[0], "button"));
 }
 
@@ -124,6 +136,43 @@ std::size_t ShownRow(Session& session, const std::string& key) {
 
 void DoubleClick(Session& session, Arguments arguments, std::ostream& /*out*/) {
   session.viewer().DoubleClickRow(ShownRow(session, arguments[0]));
+}
+
+// A key, or "-" for the empty space.
+bool IsEmptySpace(const std::string& key) {
+  return key == "-";
+}
+
+void RightClick(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  RequireUsable(session, Controls(session).tvMotherList);
+  session.viewer().RightClickNode(IsEmptySpace(arguments[0]) ? NodeId::kNone : ShownNode(session, arguments[0]));
+}
+
+Held HeldOf(Arguments names) {
+  if (names.empty()) return Held::kNothing;
+  if (names[0] == "ctrl") return Held::kCtrl;
+  if (names[0] == "shift") return Held::kShift;
+  throw ScriptError("Neither ctrl nor shift: " + names[0]);
+}
+
+void MouseDown(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  RequireUsable(session, Controls(session).lvMotherList);
+  const std::string& button = arguments[1];
+  if (button != "left" && button != "right") throw ScriptError("Neither left nor right: " + button);
+  const auto row = IsEmptySpace(arguments[0]) ? std::nullopt : std::optional(ShownRow(session, arguments[0]));
+  session.viewer().PressRow(row, button == "left" ? MouseButton::kLeft : MouseButton::kRight,
+                            HeldOf(arguments.subspan(2)));
+}
+
+void PickEntry(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  widgets::Menu* const menu = OpenMenu(session);
+  if (menu == nullptr) throw ScriptError("No menu is open");
+  const std::vector<SeenMenuEntry> entries = session.viewer().Look(*menu).entries;
+  const auto entry = std::ranges::find(entries, arguments[0], &SeenMenuEntry::name);
+  if (entry == entries.end()) throw ScriptError(menu->name() + " has no entry " + arguments[0]);
+  if (!entry->visible) throw ScriptError("Nobody can see " + arguments[0]);
+  if (!entry->enabled) throw ScriptError("Nobody can use " + arguments[0] + ", it is disabled");
+  session.viewer().PickEntry(*menu, static_cast<std::size_t>(entry - entries.begin()));
 }
 
 // Columns are counted from 1 in scripts.
@@ -171,6 +220,12 @@ void Drop(Session& session, Arguments /*arguments*/, std::ostream& /*out*/) {
   session.viewer().ReleaseGrip();
 }
 
+// Lets the scroll timer tick until it stops.
+void Tick(Session& session, Arguments /*arguments*/, std::ostream& /*out*/) {
+  ucProcessLog& viewer = session.viewer().viewer();
+  while (viewer.controls().Timer_ScrollDown_TV.enabled()) viewer.Timer_ScrollDown_TV_Timer();
+}
+
 // Chooses a row of the group order, counted from 0, and moves it.
 void MoveGroup(Session& session, Arguments arguments, std::ostream& /*out*/) {
   auto& list = UsableControl<widgets::ListBox>(session, "lstGroupBy", "list");
@@ -182,13 +237,44 @@ void MoveGroup(Session& session, Arguments arguments, std::ostream& /*out*/) {
 }
 
 void Focus(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  RequireNoDialog(session);
   if (arguments[0] == "none") return session.viewer().MoveFocus(nullptr);
   const widgets::Control& pane = *PaneNamed(Controls(session), arguments[0]);
   RequireUsable(session, pane);
   session.viewer().MoveFocus(&pane);
 }
 
+// What the keys of a pane do is its front end's; how far Tab goes beyond both of them is the form's.
+void RequireInPanes(Session& session, const Key& key) {
+  const bool inTree = session.viewer().HasFocus(Controls(session).tvMotherList);
+  const bool inList = session.viewer().HasFocus(Controls(session).lvMotherList);
+  if (!inTree && !inList) throw ScriptError("Neither tree nor list has the focus");
+  if (key.code == KeyCode::kTab && !key.ctrl && inTree == key.shift)
+    throw ScriptError("The focus would leave the panes");
+}
+
+void PressKey(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  const Key key = KeyOf(arguments[0]);
+  if (IsDialogOpen(session)) return PressKeyInDialog(session, key);
+  if (OpenMenu(session) == nullptr) {
+    RequireInPanes(session, key);
+  } else if (key.code != KeyCode::kEscape) {
+    throw ScriptError("A menu is open: pick an entry, or press Escape");
+  }
+  session.viewer().Press(key);
+}
+
+void TypeAhead(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  RequireNoDialog(session);
+  if (OpenMenu(session) != nullptr) throw ScriptError("A menu is open: pick an entry, or press Escape");
+  RequireInPanes(session, {});
+  session.viewer().TypeAhead(arguments[0]);
+}
+
 void Size(Session& session, Arguments arguments, std::ostream& /*out*/) {
+  if (arguments.size() == 3 && arguments[0] == "dialog") return SizeDialog(session, arguments.subspan(1));
+  if (arguments.size() != 2) throw ScriptError("Use: size [dialog] WIDTH HEIGHT");
+  RequireNoDialog(session);
   session.viewer().Resize(NumberOf(arguments[0]), NumberOf(arguments[1]));
 }
 
@@ -208,15 +294,21 @@ constexpr CommandEntry kCommands[] = {
     {"expand", "KEY", 1, 1, Expand},
     {"collapse", "KEY", 1, 1, Collapse},
     {"click", "KEY", 1, 1, Click},
+    {"rightclick", "KEY|-", 1, 1, RightClick},
+    {"mousedown", "KEY|- left|right [ctrl|shift]", 2, 3, MouseDown},
+    {"pick", "ENTRY", 1, 1, PickEntry},
+    {"key", "KEY", 1, 1, PressKey},
+    {"type", "TEXT", 1, 1, TypeAhead},
     {"select", "KEY [KEY ...]", 1, kAnyNumber, Select},
     {"doubleclick", "KEY", 1, 1, DoubleClick},
     {"column", "NUMBER", 1, 1, ClickColumn},
     {"widen", "COLUMN TWIPS", 2, 2, Widen},
     {"drag", "TWIPS [hold]", 1, 2, Drag},
     {"drop", "", 0, 0, Drop},
+    {"tick", "", 0, 0, Tick},
     {"group", "ROW up|down", 2, 2, MoveGroup},
     {"focus", "tree|list|none", 1, 1, Focus},
-    {"size", "WIDTH HEIGHT", 2, 2, Size},
+    {"size", "[dialog] WIDTH HEIGHT", 2, 3, Size},
     {"scroll", "SCROLLBAR VALUE | tree KEY | list KEY", 2, 2, Scroll},
 };
 

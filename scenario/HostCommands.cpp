@@ -90,12 +90,19 @@ void PrintMenuState(ucProcessLog& viewer, Arguments /*arguments*/, std::ostream&
 
 // Without arguments as a host that opens imports does.
 void GetLogByImports(ucProcessLog& viewer, Arguments arguments, std::ostream& out) {
-  if (arguments.size() != 0 && arguments.size() != 3)
+  if (!arguments.empty() && arguments.size() != 3) {
     throw ScriptError("Use: call m_GetLogByImports [VIEW IMPORT PASSED]");
+  }
   std::array<std::int32_t, 3> values{0, viewer.p_IdAppLog(), 0};
   for (std::size_t i = 0; i < arguments.size(); ++i) values[i] = NumberOf(arguments[i]);
   viewer.m_GetLogByImports(values[0], values[1], values[2]);
   out << "view = " << values[0] << "\nimportId = " << values[1] << "\npassed = " << values[2] << '\n';
+}
+
+void ExpandCommunications(ucProcessLog& viewer, Arguments arguments, std::ostream& /*out*/) {
+  const widgets::NodeId node = viewer.controls().tvMotherList.Find(arguments[0]);
+  if (node == widgets::NodeId::kNone) throw ScriptError("No such node: " + arguments[0]);
+  viewer.tvMotherList_ExpandCommunications(node);
 }
 
 // What menu 12 is for scripts, m_MenuCall is for hosts.
@@ -139,6 +146,11 @@ constexpr Method kMethods[] = {
        viewer.m_GetLogByBackup(!arguments.empty() && FlagOf(arguments[0]));
      }},
     {"m_GetLogByImports", "[VIEW IMPORT PASSED]", 0, 3, GetLogByImports},
+    {"tvMotherList_ExpandCommunications", "KEY", 1, 1, ExpandCommunications},
+    {"GetNextContextKeyInLogs", "KEY VIEW", 2, 2,
+     [](ucProcessLog& viewer, Arguments arguments, std::ostream& out) {
+       out << Escaped(viewer.GetNextContextKeyInLogs(arguments[0], arguments[1])) << '\n';
+     }},
     {"m_GetDetail", "", 0, 0, [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.m_GetDetail(); }},
     {"m_Open", "", 0, 0, [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.m_Open(); }},
     {"m_Copy", "", 0, 0, [](ucProcessLog& viewer, Arguments, std::ostream&) { viewer.m_Copy(); }},

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "scenario/Commands.h"
+#include "scenario/DetailCommands.h"
 #include "scenario/Values.h"
 #include "scenario/ViewerControls.h"
 
@@ -14,6 +15,7 @@ namespace {
 using widgets::NodeId;
 
 constexpr std::string_view kNodeIndent = "  ";
+constexpr std::string_view kSeparatorCaption = "-";
 constexpr std::string_view kAlignments[] = {"left", "right", "centre"};
 
 // Closed, open, or without anything below it.
@@ -123,6 +125,44 @@ void PrintTabs(Session& session, std::ostream& out) {
   }
 }
 
+void PrintMenu(Session& session, const widgets::Menu& menu, std::ostream& out) {
+  const SeenMenu seen = session.viewer().Look(menu);
+  out << menu.name() << '\t' << menu.text() << (seen.open ? " (open)" : "") << '\n';
+  for (const SeenMenuEntry& entry : seen.entries) {
+    out << kNodeIndent << entry.name << '\t' << entry.caption << '\t' << (entry.visible ? "visible" : "hidden");
+    if (entry.caption != kSeparatorCaption) out << '\t' << (entry.enabled ? "enabled" : "disabled");
+    out << '\n';
+  }
+}
+
+struct MenuFlag {
+  std::string_view name;
+  bool MenuState::*flag;
+};
+
+constexpr MenuFlag kMenuFlags[] = {
+    {"f_blnMenuVisible", &MenuState::f_blnMenuVisible},
+    {"f_blnOpenEnabled", &MenuState::f_blnOpenEnabled},
+    {"f_blnCopyNoteBookEnabled", &MenuState::f_blnCopyNoteBookEnabled},
+    {"f_blnOpenJoinFileVisible", &MenuState::f_blnOpenJoinFileVisible},
+    {"f_blnExecutionReportEnabled", &MenuState::f_blnExecutionReportEnabled},
+    {"f_blnSelectAllEnabled", &MenuState::f_blnSelectAllEnabled},
+    {"f_blnStopExecutionEnabled", &MenuState::f_blnStopExecutionEnabled},
+    {"f_blnAcquittedAlarmEnabled", &MenuState::f_blnAcquittedAlarmEnabled},
+    {"f_blnActivatedAlarmEnabled", &MenuState::f_blnActivatedAlarmEnabled},
+    {"f_blnGotoProcessEnabled", &MenuState::f_blnGotoProcessEnabled},
+    {"f_blnTVExpandAllEnabled", &MenuState::f_blnTVExpandAllEnabled},
+    {"f_blnTVCollapseAllEnabled", &MenuState::f_blnTVCollapseAllEnabled},
+    {"f_blnOpenJoinFileEnabled", &MenuState::f_blnOpenJoinFileEnabled},
+};
+
+void PrintMenus(Session& session, std::ostream& out) {
+  ucProcessLog& viewer = session.viewer().viewer();
+  PrintMenu(session, viewer.controls().mnu_Popup, out);
+  PrintMenu(session, viewer.controls().mnu_PopupTV, out);
+  for (const MenuFlag& each : kMenuFlags) out << each.name << '\t' << (viewer.menuState().*each.flag ? 1 : 0) << '\n';
+}
+
 void PrintMessages(Session& session, std::ostream& out) {
   for (const ShownMessage& message : session.platform().TakeMessages()) {
     out << '[' << Escaped(message.title) << "]\n" << EscapedLines(message.text);
@@ -199,6 +239,10 @@ void PrintPlaceInSight(Session& session, std::ostream& out) {
   out << '\n';
 }
 
+void PrintShell(Session& session, std::ostream& out) {
+  for (const std::string& call : session.platform().TakeShellCalls()) out << Escaped(call) << '\n';
+}
+
 void PrintEvents(Session& session, std::ostream& out) {
   for (const std::string& event : session.TakeEvents()) out << Escaped(event) << '\n';
 }
@@ -218,6 +262,7 @@ constexpr PrintEntry kPrints[] = {
     {"columns", PrintColumns},
     {"options", PrintOptions},
     {"tabs", PrintTabs},
+    {"menus", PrintMenus},
     {"messages", PrintMessages},
     {"statusbar", PrintStatusBar},
     {"log", PrintLog},
@@ -228,6 +273,7 @@ constexpr PrintEntry kPrints[] = {
     {"clipboard", PrintClipboard},
     {"place", PrintPlaceInSight},
     {"events", PrintEvents},
+    {"shell", PrintShell},
 };
 
 void Print(Session& session, Arguments arguments, std::ostream& out) {
@@ -236,6 +282,8 @@ void Print(Session& session, Arguments arguments, std::ostream& out) {
     PrintLayout(session, rest, out);
   } else if (arguments[0] == "tree" && rest.size() == 1 && rest[0] == "all") {
     PrintTree(session, true, out);
+  } else if (arguments[0] == "detail") {
+    PrintDetail(session, rest, out);
   } else if (arguments[0] == "cell" && rest.size() == 2) {
     PrintCell(session, rest, out);
   } else if (rest.empty()) {

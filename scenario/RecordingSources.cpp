@@ -31,10 +31,14 @@ class Recorded : public Wrapped {
   Recorded(const Recorded&) = delete;
   Recorded& operator=(const Recorded&) = delete;
 
-  std::int32_t lngCount() const override { return inner_->lngCount(); }
+  std::int32_t lngCount() const override { return Read("lngCount").lngCount(); }
 
  protected:
-  const Source& inner() const { return *inner_; }
+  // The source, for a reading call of that name: too frequent for the journal, but it may fail like any other.
+  const Source& Read(std::string_view name) const {
+    calls_.faults().Use(name);
+    return *inner_;
+  }
 
   template <class Method, class... Arguments>
   void Query(std::string_view name, Method method, std::int32_t& status, const Arguments&... arguments) {
@@ -104,8 +108,8 @@ class RecordedProcessLog : public Recorded<ProcessLog> {
     Query("GetProcessLogDetail", &ProcessLog::GetProcessLogDetail, status, connection, processLogId, reserved1,
           reserved2);
   }
-  const ProcessLogRecords& Records() const override { return inner().Records(); }
-  const ProcessLogDetail& Detail() const override { return inner().Detail(); }
+  const ProcessLogRecords& Records() const override { return Read("Records").Records(); }
+  const ProcessLogDetail& Detail() const override { return Read("Detail").Detail(); }
 };
 
 class RecordedTaskRuns : public Recorded<Quorvel> {
@@ -119,7 +123,7 @@ class RecordedTaskRuns : public Recorded<Quorvel> {
   void CloseTaskRuns(std::int32_t connection) override {
     Release("CloseTaskRuns", &Quorvel::CloseTaskRuns, connection);
   }
-  const TaskRunRecords& Records() const override { return inner().Records(); }
+  const TaskRunRecords& Records() const override { return Read("Records").Records(); }
 };
 
 class RecordedStepLog : public Recorded<StepLog> {
@@ -130,7 +134,7 @@ class RecordedStepLog : public Recorded<StepLog> {
     Query("GetStepLogByTaskRun", &StepLog::GetStepLogByTaskRun, status, connection, taskId, processLogId, userId);
   }
   void CloseStepLog(std::int32_t connection) override { Release("CloseStepLog", &StepLog::CloseStepLog, connection); }
-  const StepLogRecords& Records() const override { return inner().Records(); }
+  const StepLogRecords& Records() const override { return Read("Records").Records(); }
 };
 
 class RecordedCommandLog : public Recorded<CommandLog> {
@@ -166,7 +170,7 @@ class RecordedCommandLog : public Recorded<CommandLog> {
   void CloseCommandLogByStepLog(std::int32_t connection) override {
     Release("CloseCommandLogByStepLog", &CommandLog::CloseCommandLogByStepLog, connection);
   }
-  const CommandLogRecords& Records() const override { return inner().Records(); }
+  const CommandLogRecords& Records() const override { return Read("Records").Records(); }
 };
 
 class RecordedAlarmsLog : public Recorded<AlarmsLog> {
@@ -183,7 +187,14 @@ class RecordedAlarmsLog : public Recorded<AlarmsLog> {
   void CloseAlarmsByDay(std::int32_t connection) override {
     Release("CloseAlarmsByDay", &AlarmsLog::CloseAlarmsByDay, connection);
   }
-  const AlarmsLogRecords& Records() const override { return inner().Records(); }
+  void AcknowledgeAlarms(std::int32_t connection, std::span<const std::int32_t> alarmIds, std::string_view userName,
+                         std::int32_t& status) override {
+    Query("AcknowledgeAlarms", &AlarmsLog::AcknowledgeAlarms, status, connection, alarmIds, userName);
+  }
+  void ActivateAlarms(std::int32_t connection, std::span<const std::int32_t> alarmIds, std::int32_t& status) override {
+    Query("ActivateAlarms", &AlarmsLog::ActivateAlarms, status, connection, alarmIds);
+  }
+  const AlarmsLogRecords& Records() const override { return Read("Records").Records(); }
 };
 
 class RecordedSaves : public Recorded<Saves> {
@@ -201,7 +212,7 @@ class RecordedSaves : public Recorded<Saves> {
   void CloseSaveFiles(std::int32_t connection) override {
     Release("CloseSaveFiles", &Saves::CloseSaveFiles, connection);
   }
-  const SavesRecords& Records() const override { return inner().Records(); }
+  const SavesRecords& Records() const override { return Read("Records").Records(); }
 };
 
 class RecordedUsersImport : public Recorded<UsersImport> {
@@ -221,7 +232,7 @@ class RecordedUsersImport : public Recorded<UsersImport> {
   void CloseUsersImportByProcess(std::int32_t connection) override {
     Release("CloseUsersImportByProcess", &UsersImport::CloseUsersImportByProcess, connection);
   }
-  const UsersImportRecords& Records() const override { return inner().Records(); }
+  const UsersImportRecords& Records() const override { return Read("Records").Records(); }
 };
 
 class RecordedTaskSchedulerLog : public Recorded<TaskSchedulerLog> {
@@ -232,7 +243,7 @@ class RecordedTaskSchedulerLog : public Recorded<TaskSchedulerLog> {
     Query("GetTaskSchedulerLogs", &TaskSchedulerLog::GetTaskSchedulerLogs, status, connection, dateFrom, dateTo, kind,
           stateCode, companyId);
   }
-  const TaskSchedulerLogRecords& Records() const override { return inner().Records(); }
+  const TaskSchedulerLogRecords& Records() const override { return Read("Records").Records(); }
 };
 
 class RecordedLabels : public Recorded<Labels> {
@@ -241,7 +252,7 @@ class RecordedLabels : public Recorded<Labels> {
   void GetLabel(std::int32_t connection, std::string_view name, std::int32_t& status) override {
     Query("GetLabel", &Labels::GetLabel, status, connection, name);
   }
-  const std::string& strLabelValue() const override { return inner().strLabelValue(); }
+  const std::string& strLabelValue() const override { return Read("strLabelValue").strLabelValue(); }
   void NotifyStopRequest(std::int32_t connection, std::string_view serverName, std::int32_t processLogId,
                          std::int32_t& result) override {
     Query("NotifyStopRequest", &Labels::NotifyStopRequest, result, connection, serverName, processLogId);

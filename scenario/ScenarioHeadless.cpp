@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "scenario/HeadlessDetail.h"
+#include "scenario/HeadlessPanes.h"
 #include "scenario/Values.h"
 #include "scenario/ViewerControls.h"
 
@@ -12,10 +14,22 @@ namespace {
 
 using widgets::NodeId;
 
+// As a text box shows it, whichever way its lines end.
+std::string LinesOf(std::string_view text) {
+  std::string lines;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool lineEnd = text[i] == '\r' || text[i] == '\n';
+    if (text.substr(i).starts_with("\r\n")) ++i;
+    lineEnd ? lines.append("\r\n") : lines.append(1, text[i]);
+  }
+  return lines;
+}
+
 // What a control is set to, as a script sets it; nothing for controls that cannot be set.
 std::optional<std::string> ValueOf(const widgets::Control& control) {
   if (const auto* list = dynamic_cast<const widgets::ItemList*>(&control)) return list->selectedText();
   if (const auto* box = dynamic_cast<const widgets::TextBox*>(&control)) return box->text();
+  if (const auto* text = dynamic_cast<const widgets::RichTextBox*>(&control)) return LinesOf(text->text());
   if (const auto* check = dynamic_cast<const widgets::CheckBox*>(&control)) return check->checked() ? "1" : "0";
   if (const auto* bar = dynamic_cast<const widgets::ScrollBar*>(&control)) return std::to_string(bar->value());
   if (const auto* picker = dynamic_cast<const widgets::DateTimePicker*>(&control)) {
@@ -26,7 +40,9 @@ std::optional<std::string> ValueOf(const widgets::Control& control) {
 
 // The caption that is drawn on or beside a control.
 std::string CaptionOf(const widgets::Control& control) {
-  return dynamic_cast<const widgets::TextBox*>(&control) != nullptr ? std::string() : control.text();
+  const bool holdsText = dynamic_cast<const widgets::TextBox*>(&control) != nullptr ||
+                         dynamic_cast<const widgets::RichTextBox*>(&control) != nullptr;
+  return holdsText ? std::string() : control.text();
 }
 
 class HeadlessViewer : public ViewerPort {
@@ -136,6 +152,7 @@ class HeadlessViewer : public ViewerPort {
 
   void Press(widgets::Button& button) override {
     if (&button == &c_.cmdRefresh) viewer_.cmdRefresh_Click();
+    detail_.Press(button);
   }
 
   void Spin(widgets::UpDown& upDown, bool up) override {
@@ -150,15 +167,37 @@ class HeadlessViewer : public ViewerPort {
   void ClickNode(NodeId node) override { viewer_.tvMotherList_NodeClick(node); }
 
   void SelectRows(std::span<const std::size_t> rows) override {
-    widgets::RowRanges selection;
-    for (const std::size_t row : rows) selection.Add({row, row + 1});
-    // The row clicked last is the one that commands act on.
-    c_.lvMotherList.SetSelection(std::move(selection), rows.empty() ? std::nullopt : std::optional(rows.back()));
+    Held held = Held::kNothing;
+    for (const std::size_t row : rows) {
+      panes_.PressRow(row, held);
+      held = Held::kCtrl;
+    }
   }
 
   void DoubleClickRow(std::size_t row) override {
-    SelectRows(std::array{row});
+    panes_.PressRow(row, Held::kNothing);
     viewer_.lvMotherList_DblClick();
+  }
+
+  void PressRow(std::optional<std::size_t> row, MouseButton button, Held held) override {
+    if (button == MouseButton::kLeft) return panes_.PressRow(row, held);
+    viewer_.lvMotherList_MouseDown(button, row);
+  }
+
+  void RightClickNode(NodeId node) override { viewer_.tvMotherList_MouseUp(MouseButton::kRight, node); }
+
+  SeenMenu Look(const widgets::Menu& menu) const override {
+    SeenMenu seen{menu.open(), {}};
+    for (const widgets::MenuEntry& entry : menu.entries()) {
+      seen.entries.push_back({entry.name, entry.caption, entry.visible, entry.enabled});
+    }
+    return seen;
+  }
+
+  void PickEntry(widgets::Menu& menu, std::size_t entry) override {
+    std::int32_t command = menu.entries().at(entry).command;
+    menu.Close();
+    viewer_.m_MenuCall(command);
   }
 
   void ClickHeader(std::size_t column) override { viewer_.lvMotherList_ColumnClick(column + 1); }
@@ -185,10 +224,50 @@ class HeadlessViewer : public ViewerPort {
     if (control == &c_.lvMotherList) viewer_.lvMotherList_GotFocus();
   }
 
+  void Press(const Key& key) override {
+    for (widgets::Menu* const menu : {&c_.mnu_Popup, &c_.mnu_PopupTV}) {
+      if (menu->open()) return menu->Close();
+    }
+    if (detail_.open()) return detail_.Press(key);
+    if (key.code == KeyCode::kTab) return PressTab(key);
+    if (key == Key{.code = KeyCode::kF5}) {
+      if (c_.cmdRefresh.enabled()) viewer_.cmdRefresh_Click();
+    } else if (focus_ == &c_.tvMotherList) {
+      panes_.PressKeyInTree(key);
+    } else {
+      panes_.PressKeyInList(key);
+    }
+  }
+
+  std::optional<std::string> DialogCaption() const override {
+    return detail_.open() ? std::optional(detail_.caption()) : std::nullopt;
+  }
+
+  void ResizeDialog(int width, int height) override { detail_.Resize(width, height); }
+
+  void TypeAhead(std::string_view text) override {
+    focus_ == &c_.tvMotherList ? panes_.TypeInTree(text) : panes_.TypeInList(text);
+  }
+
  private:
+  // From pane to pane, or with Ctrl from tab to tab in their circle.
+  void PressTab(const Key& key) {
+    if (!key.ctrl)
+      return MoveFocus(key.shift ? static_cast<const widgets::Control*>(&c_.tvMotherList) : &c_.lvMotherList);
+    const std::vector<SeenTab> tabs = Tabs();
+    const auto current = std::ranges::find(tabs, true, &SeenTab::current);
+    const std::size_t step = key.shift ? tabs.size() - 1 : 1;
+    auto tab = static_cast<std::size_t>(current - tabs.begin());
+    do {
+      tab = (tab + step) % tabs.size();
+    } while (!tabs[tab].current && !tabs[tab].enabled);
+    ClickTab(tabs[tab].caption);
+  }
+
   bool IsShown(const widgets::Control& control) const {
     const widgets::Rect& place = control.bounds();
     if (!control.visible() || place.width <= 0 || place.height <= 0) return false;
+    if (detail_.Has(control)) return detail_.open();
     const PlacedControl placed = ControlNamed(c_, control.name());
     return placed.container == nullptr || IsShown(*placed.container);
   }
@@ -204,6 +283,8 @@ class HeadlessViewer : public ViewerPort {
 
   ucProcessLog viewer_;
   ProcessLogControls& c_ = viewer_.controls();
+  HeadlessPanes panes_{viewer_};
+  HeadlessDetail detail_{viewer_.detail()};
   const widgets::Control* focus_ = nullptr;
 };
 

@@ -36,18 +36,28 @@ class ScenarioPlatform : public StandardPlatform {
   std::vector<ShownMessage> TakeMessages() { return std::exchange(messages_, {}); }
   std::vector<MousePointer> TakePointers() { return std::exchange(pointers_, {}); }
   const std::string& clipboard() const { return clipboard_; }
+  // Files that were given to the desktop: "open PATH", "open with PATH".
+  std::vector<std::string> TakeShellCalls() { return std::exchange(shellCalls_, {}); }
 
   void ShowMessage(std::string_view text, std::string_view title) override;
   void SetMousePointer(MousePointer pointer) override;
   void ClearClipboard() override;
   void SetClipboardText(std::string_view text) override;
   void OpenFile(const std::filesystem::path& file) override;
+  void OpenFileWith(const std::filesystem::path& file) override;
   void SetHostStatusText(std::string_view text) override;
-  DateValue Now() const override { return now_; }
+  bool FileExists(const std::filesystem::path& file) const override;
+  bool IsEscapePressed() override;
+  DateValue Now() const override;
+  std::string FormatDate(DateValue date, DateFormat format) const override;
+  std::optional<DateValue> ParseDate(std::string_view text) const override;
   std::filesystem::path TemporaryFolder() const override;
   void DeleteFile(const std::filesystem::path& file) override;
   void RenameFile(const std::filesystem::path& file, const std::filesystem::path& newName) override;
-  std::optional<Account> CurrentAccount() const override { return account_; }
+  std::string ToFileText(std::string_view text) const override;
+  SystemVersion OperatingSystem() const override;
+  std::optional<Account> CurrentAccount() const override;
+  std::optional<std::string> CurrentUser() const override;
 
  private:
   Faults& faults_;
@@ -59,6 +69,7 @@ class ScenarioPlatform : public StandardPlatform {
   std::vector<ShownMessage> messages_;
   std::vector<MousePointer> pointers_;
   std::string clipboard_;
+  std::vector<std::string> shellCalls_;
 };
 
 }  // namespace quorvel::scenario

@@ -12,7 +12,9 @@
 #include "control/ucProcessLog.h"
 #include "datasource/RecordSource.h"
 #include "platform/Platform.h"
+#include "scenario/Keys.h"
 #include "widgets/Control.h"
+#include "widgets/Menu.h"
 
 namespace quorvel::scenario {
 
@@ -55,6 +57,22 @@ struct SeenRow {
   bool selected = false;
 };
 
+struct SeenMenuEntry {
+  std::string name;
+  std::string caption;  // "-" for a separator
+  bool visible = false;
+  bool enabled = false;
+};
+
+// A popup menu; its entries can be read while it is not open, too.
+struct SeenMenu {
+  bool open = false;
+  std::vector<SeenMenuEntry> entries;
+};
+
+// The key that is held while a mouse button is pressed.
+enum class Held { kNothing, kCtrl, kShift };
+
 // One viewer on a form.
 //
 // Gestures are made as a user makes them, and return when all that follows from them was done. The runner has made sure
@@ -79,6 +97,7 @@ class ViewerPort {
   virtual widgets::NodeId TopNode() const = 0;
   virtual std::optional<std::size_t> TopRow() const = 0;
   virtual bool HasFocus(const widgets::Control& control) const = 0;
+  virtual SeenMenu Look(const widgets::Menu& menu) const = 0;
 
   // In pixels at 96 dots per inch.
   virtual void Resize(int width, int height) = 0;
@@ -95,6 +114,12 @@ class ViewerPort {
   // In place of the selection.
   virtual void SelectRows(std::span<const std::size_t> rows) = 0;
   virtual void DoubleClickRow(std::size_t row) = 0;
+  // On a row or, without one, on the space below the rows.
+  virtual void PressRow(std::optional<std::size_t> row, MouseButton button, Held held) = 0;
+  // On a node or, for kNone, on the space below the nodes.
+  virtual void RightClickNode(widgets::NodeId node) = 0;
+  // An entry of an open menu.
+  virtual void PickEntry(widgets::Menu& menu, std::size_t entry) = 0;
   // A column header, counted from 0: clicked; its right edge dragged until it is so wide.
   virtual void ClickHeader(std::size_t column) = 0;
   virtual void WidenColumn(std::size_t column, widgets::Twips width) = 0;
@@ -108,6 +133,13 @@ class ViewerPort {
   virtual void ScrollList(std::size_t top) = 0;
   // By the keyboard; nullptr: to what lies outside the viewer.
   virtual void MoveFocus(const widgets::Control* control) = 0;
+  // Where the keys go: an open menu, a dialog, the pane that has the focus.
+  virtual void Press(const Key& key) = 0;
+  // The detail dialog: its caption while it is open; its size, in pixels at 96 dots per inch.
+  virtual std::optional<std::string> DialogCaption() const = 0;
+  virtual void ResizeDialog(int width, int height) = 0;
+  // Letters, in one go, after a pause; in the pane that has the focus.
+  virtual void TypeAhead(std::string_view text) = 0;
 };
 
 // A host: its form, and its status bar.

@@ -35,6 +35,11 @@ PlacedControl ControlNamed(ProcessLogControls& controls, std::string_view name) 
   return *found;
 }
 
+std::vector<widgets::Control*> DetailControls(dlgLVDetailControls& c) {
+  return {&c.lblTitle,  &c.lblDateStart, &c.lblDateStartValue, &c.lblDateEnd,         &c.lblDateEndValue,
+          &c.rtbDetail, &c.cmdPrevious,  &c.cmdNext,           &c.cmdCopytoClipboard, &c.cmdClose};
+}
+
 const widgets::Control* PaneNamed(const ProcessLogControls& controls, std::string_view name) {
   if (name == "tree") return &controls.tvMotherList;
   if (name == "list") return &controls.lvMotherList;

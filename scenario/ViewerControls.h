@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "control/ProcessLogControls.h"
+#include "dialogs/dlgLVDetailControls.h"
 
 namespace quorvel::scenario {
 
@@ -18,6 +19,9 @@ std::vector<PlacedControl> PlacedControls(ProcessLogControls& controls);
 
 // The control of that name with its container. ScriptError when there is none.
 PlacedControl ControlNamed(ProcessLogControls& controls, std::string_view name);
+
+// The controls of the detail dialog, from top to bottom.
+std::vector<widgets::Control*> DetailControls(dlgLVDetailControls& controls);
 
 // The pane that scripts call "tree" or "list". ScriptError for any other name.
 const widgets::Control* PaneNamed(const ProcessLogControls& controls, std::string_view name);

@@ -5,6 +5,13 @@
 #include <QMouseEvent>
 #include <QWidget>
 
+// Looks for a shortcut of this key, and triggers it. What the test library of Qt calls for its key clicks too.
+QT_BEGIN_NAMESPACE
+extern Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* target, ulong timestamp, int key,
+                                                      Qt::KeyboardModifiers modifiers, const QString& text,
+                                                      bool repeats, ushort count);
+QT_END_NAMESPACE
+
 namespace quorvel::scenario {
 namespace {
 
@@ -15,6 +22,7 @@ void SendMouse(QWidget& widget, QEvent::Type type, QPoint at, Qt::MouseButton bu
 }
 
 void SendKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+  if (qt_sendShortcutOverrideEvent(&widget, 0, key, modifiers, text, false, 1)) return;
   QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
   QApplication::sendEvent(&widget, &press);
   QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
@@ -35,9 +43,9 @@ void ReleaseMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers) {
   SendMouse(widget, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton, modifiers);
 }
 
-void ClickMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers) {
-  PressMouse(widget, at, modifiers);
-  ReleaseMouse(widget, at, modifiers);
+void ClickMouse(QWidget& widget, QPoint at, Qt::KeyboardModifiers modifiers, Qt::MouseButton button) {
+  SendMouse(widget, QEvent::MouseButtonPress, at, button, button, modifiers);
+  SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton, modifiers);
 }
 
 void DoubleClickMouse(QWidget& widget, QPoint at) {

@@ -5,17 +5,23 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDeadlineTimer>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTabBar>
+#include <QTextDocument>
 #include <QToolButton>
 #include <algorithm>
 #include <chrono>
+#include <iterator>
+#include <limits>
 
 #include "qt/Convert.h"
 #include "qt/ListPane.h"
@@ -38,6 +44,14 @@ void Settle() {
   QCoreApplication::processEvents();
 }
 
+// Window systems take their time.
+void AwaitSize(const QWidget& widget, QSize size) {
+  const QDeadlineTimer limit(kResizeLimit);
+  do {
+    Settle();
+  } while (widget.size() != size && !limit.hasExpired());
+}
+
 // A widget lies on whole pixels. Where it lies on those that the twips of its control round to, it lies there.
 widgets::Rect BoundsOf(const QWidget& widget, const widgets::Control& control) {
   const QRect place = widget.geometry();
@@ -51,7 +65,13 @@ std::string CaptionOf(const QWidget& widget) {
   return {};
 }
 
+// Its lines, ended as the model ends them; Qt's own plain text would lose what some blanks are.
+std::string TextOf(const QPlainTextEdit& box) {
+  return FromQt(box.document()->toRawText().replace(QChar::ParagraphSeparator, QStringLiteral("\r\n")));
+}
+
 std::optional<std::string> ValueOf(const QWidget& widget) {
+  if (const auto* text = qobject_cast<const QPlainTextEdit*>(&widget)) return TextOf(*text);
   if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) return FromQt(combo->currentText());
   if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) return FromQt(box->text());
   if (const auto* check = qobject_cast<const QCheckBox*>(&widget)) return check->isChecked() ? "1" : "0";
@@ -80,6 +100,30 @@ bool IsBold(const QModelIndex& index) {
 widgets::SystemColour ColourOf(const QModelIndex& index) {
   return index.data(Qt::ForegroundRole).isValid() ? widgets::SystemColour::kGrayText
                                                   : widgets::SystemColour::kWindowText;
+}
+
+Qt::KeyboardModifiers ModifiersOf(Held held) {
+  switch (held) {
+    case Held::kCtrl:
+      return Qt::ControlModifier;
+    case Held::kShift:
+      return Qt::ShiftModifier;
+    case Held::kNothing:
+      break;
+  }
+  return Qt::NoModifier;
+}
+
+// In the order of KeyCode.
+constexpr Qt::Key kQtKeys[] = {Qt::Key_Return,   Qt::Key_Escape, Qt::Key_Tab,   Qt::Key_PageUp,
+                               Qt::Key_PageDown, Qt::Key_Home,   Qt::Key_End,   Qt::Key_Up,
+                               Qt::Key_Down,     Qt::Key_Left,   Qt::Key_Right, Qt::Key_Menu,
+                               Qt::Key_F5,       Qt::Key_F10,    Qt::Key_A,     Qt::Key_C};
+static_assert(std::size(kQtKeys) == static_cast<std::size_t>(KeyCode::kC) + 1);
+
+Qt::Key QtKeyOf(const Key& key) {
+  if (key.code == KeyCode::kTab && key.shift) return Qt::Key_Backtab;
+  return kQtKeys[static_cast<std::size_t>(key.code)];
 }
 
 widgets::Alignment AlignmentOf(int alignment) {
@@ -189,6 +233,16 @@ bool QtViewer::HasFocus(const widgets::Control& control) const {
   return Of(control).hasFocus();
 }
 
+SeenMenu QtViewer::Look(const widgets::Menu& menu) const {
+  const auto& popup = Of<QMenu>(menu);
+  SeenMenu seen{popup.isVisible(), {}};
+  for (const QAction* const action : popup.actions()) {
+    const std::string caption = action->isSeparator() ? "-" : FromQt(action->text());
+    seen.entries.push_back({FromQt(action->objectName()), caption, action->isVisible(), action->isEnabled()});
+  }
+  return seen;
+}
+
 void QtViewer::Resize(int width, int height) {
   const QSize wanted(width, height);
   // A form that lays its viewer out gives it the size through its own.
@@ -199,11 +253,19 @@ void QtViewer::Resize(int width, int height) {
   } else {
     widget_->resize(wanted);
   }
-  // Window systems take their time.
-  const QDeadlineTimer limit(kResizeLimit);
-  do {
-    Settle();
-  } while (widget_->size() != wanted && !limit.hasExpired());
+  AwaitSize(*widget_, wanted);
+}
+
+std::optional<std::string> QtViewer::DialogCaption() const {
+  const auto& dialog = Of<QDialog>(widget_->control().detail().controls().form);
+  return dialog.isVisible() ? std::optional(FromQt(dialog.windowTitle())) : std::nullopt;
+}
+
+void QtViewer::ResizeDialog(int width, int height) {
+  auto& dialog = Of<QDialog>(widget_->control().detail().controls().form);
+  const QSize wanted = QSize(width, height).expandedTo(dialog.minimumSize());
+  dialog.resize(wanted);
+  AwaitSize(dialog, wanted);
 }
 
 void QtViewer::ClickTab(std::string_view caption) {
@@ -319,6 +381,33 @@ void QtViewer::DoubleClickRow(std::size_t row) {
   Settle();
 }
 
+QPoint QtViewer::EmptyPoint(QAbstractItemView& view) const {
+  const QPoint point(kIntoText, view.viewport()->height() - 1);
+  if (view.indexAt(point).isValid()) throw ScriptError("There is no empty space in " + FromQt(view.objectName()));
+  return point;
+}
+
+void QtViewer::PressRow(std::optional<std::size_t> row, MouseButton button, Held held) {
+  qt::ListPane& list = widget_->list();
+  const QPoint point = row ? PointOn(list, list.model()->index(static_cast<int>(*row), 0)) : EmptyPoint(list);
+  ClickMouse(*list.viewport(), point, ModifiersOf(held),
+             button == MouseButton::kLeft ? Qt::LeftButton : Qt::RightButton);
+  Settle();
+}
+
+void QtViewer::RightClickNode(NodeId node) {
+  qt::TreePane& tree = widget_->tree();
+  const QPoint point = node == NodeId::kNone ? EmptyPoint(tree) : PointOn(tree, tree.nodes().IndexOf(node));
+  ClickMouse(*tree.viewport(), point, {}, Qt::RightButton);
+  Settle();
+}
+
+void QtViewer::PickEntry(widgets::Menu& menu, std::size_t entry) {
+  auto& popup = Of<QMenu>(menu);
+  ClickMouse(popup, popup.actionGeometry(popup.actions().at(static_cast<qsizetype>(entry))).center());
+  Settle();
+}
+
 void QtViewer::ClickHeader(std::size_t column) {
   QHeaderView& header = *widget_->list().horizontalHeader();
   const int section = static_cast<int>(column);
@@ -376,6 +465,32 @@ void QtViewer::MoveFocus(const widgets::Control* control) {
   } else if (QWidget* const before = QApplication::focusWidget()) {
     before->clearFocus();
   }
+  Settle();
+}
+
+QWidget& QtViewer::WidgetWithKeys() const {
+  if (QWidget* const popup = QApplication::activePopupWidget()) return *popup;
+  if (QWidget* const focused = QApplication::focusWidget()) return *focused;
+  throw ScriptError("Nothing has the focus");
+}
+
+void QtViewer::Press(const Key& key) {
+  Qt::KeyboardModifiers modifiers;
+  modifiers.setFlag(Qt::ControlModifier, key.ctrl);
+  modifiers.setFlag(Qt::ShiftModifier, key.shift);
+  PressKey(WidgetWithKeys(), QtKeyOf(key), modifiers);
+  Settle();
+}
+
+void QtViewer::TypeAhead(std::string_view text) {
+  // However slow the machine is, the first letter comes after a pause and the others do not.
+  const int pause = QApplication::keyboardInputInterval();
+  QApplication::setKeyboardInputInterval(0);
+  for (const QChar letter : qt::ToQt(text)) {
+    TypeText(WidgetWithKeys(), letter);
+    QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
+  }
+  QApplication::setKeyboardInputInterval(pause);
   Settle();
 }
 

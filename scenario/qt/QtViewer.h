@@ -29,6 +29,7 @@ class QtViewer final : public ViewerPort {
   widgets::NodeId TopNode() const override;
   std::optional<std::size_t> TopRow() const override;
   bool HasFocus(const widgets::Control& control) const override;
+  SeenMenu Look(const widgets::Menu& menu) const override;
 
   void Resize(int width, int height) override;
   void ClickTab(std::string_view caption) override;
@@ -43,6 +44,9 @@ class QtViewer final : public ViewerPort {
   void ClickNode(widgets::NodeId node) override;
   void SelectRows(std::span<const std::size_t> rows) override;
   void DoubleClickRow(std::size_t row) override;
+  void PressRow(std::optional<std::size_t> row, MouseButton button, Held held) override;
+  void RightClickNode(widgets::NodeId node) override;
+  void PickEntry(widgets::Menu& menu, std::size_t entry) override;
   void ClickHeader(std::size_t column) override;
   void WidenColumn(std::size_t column, widgets::Twips width) override;
   void PressGrip() override;
@@ -52,6 +56,10 @@ class QtViewer final : public ViewerPort {
   void ScrollTree(widgets::NodeId top) override;
   void ScrollList(std::size_t top) override;
   void MoveFocus(const widgets::Control* control) override;
+  void Press(const Key& key) override;
+  std::optional<std::string> DialogCaption() const override;
+  void ResizeDialog(int width, int height) override;
+  void TypeAhead(std::string_view text) override;
 
  private:
   // The widget that draws a control.
@@ -59,6 +67,10 @@ class QtViewer final : public ViewerPort {
   Widget& Of(const widgets::Control& control) const;
   // A point on the text of an item, scrolled into view.
   QPoint PointOn(QAbstractItemView& view, const QModelIndex& index) const;
+  // A point on the space below all items. ScriptError when they fill the pane.
+  QPoint EmptyPoint(QAbstractItemView& view) const;
+  // The focus is somewhere in the viewer, or in a menu over it.
+  QWidget& WidgetWithKeys() const;
   void AppendChildren(const QModelIndex& parent, std::size_t depth, std::vector<SeenNode>& seen) const;
 
   QPointer<qt::ProcessLogWidget> widget_;

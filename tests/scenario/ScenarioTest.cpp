@@ -46,13 +46,14 @@ struct Refusal {
 };
 
 TEST_F(ScenarioTest, WhatNobodyCouldDoStopsTheScript) {
+  const std::string kDialog = "set p_IdAppLog 100\ncall m_GetDetail\n";
   const Refusal refusals[] = {
-      {"tick", "No such command: tick"},
+      {"tock", "No such command: tock"},
       {"doubleclick x", "No such row: x"},
       {"column 12", "No such column: 12"},
       {"print cell LPROC|11|0|101 1", "No such row: LPROC|11|0|101"},
       {"expand", "Use: expand KEY"},
-      {"print detail", "No such print: detail"},
+      {"print everything", "No such print: everything"},
       {"set p_Nothing 1", "No such property: p_Nothing"},
       {"set p_ListCount 1", "A host cannot set p_ListCount"},
       {"call m_GetLogAll", "Use: call m_GetLogAll STATE"},
@@ -71,6 +72,13 @@ TEST_F(ScenarioTest, WhatNobodyCouldDoStopsTheScript) {
       {"fail GetProcessLogs 0 5", "Uses count from 1: 0"},
       {"close\nrefresh", "The viewer was closed"},
       {"sql \"SELEC 1\"", "syntax error"},
+      {"size dialog 600 400", "No dialog is open"},
+      {kDialog + "tab Users", "The dialog is open"},
+      {kDialog + "size 900 600", "The dialog is open"},
+      {kDialog + "focus none", "The dialog is open"},
+      {kDialog + "press cmdRefresh", "it has no button cmdRefresh"},
+      {kDialog + "press cmdNext", "Nobody can use cmdNext, it is disabled"},
+      {kDialog + "key Tab", "The focus would leave the text"},
   };
   for (const Refusal& refusal : refusals) {
     EXPECT_FALSE(Run(refusal.script + "\nprint caption\n")) << refusal.script;
