@@ -1,6 +1,8 @@
 #include "console/Console.h"
 
 #include <QApplication>
+#include <QPainter>
+#include <QPixmap>
 #include <iostream>
 
 #include "console/Appearance.h"
@@ -42,8 +44,24 @@ QRect PlaceOf(const QWidget& window, const QString& part) {
   if (part.isEmpty()) return window.rect();
   const auto* const widget = window.findChild<QWidget*>(part);
   if (widget == nullptr) return {};
-  const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+  // A dialog is a window of its own.
+  const QRect place(window.mapFromGlobal(widget->mapToGlobal(QPoint())), widget->size());
   return place.adjusted(-kSurroundings, -kSurroundings, kSurroundings, kSurroundings) & window.rect();
+}
+
+// A part of the window, with the menus and dialogs that stand over it.
+QPixmap PictureOf(QWidget& window, const QRect& place) {
+  QPixmap picture = window.grab(place);
+  QPainter painter(&picture);
+  painter.setPen(window.palette().color(QPalette::Mid));
+  for (QWidget* const above : QApplication::topLevelWidgets()) {
+    const bool over = above->windowType() == Qt::Popup || above->windowType() == Qt::Dialog;
+    if (!over || !above->isVisible()) continue;
+    const QPoint corner = above->mapToGlobal(QPoint()) - window.mapToGlobal(place.topLeft());
+    painter.drawPixmap(corner, above->grab());
+    painter.drawRect(QRect(corner, above->size()).adjusted(-1, -1, 0, 0));
+  }
+  return picture;
 }
 
 int ShowWindow(const ConsoleOptions& options) {
@@ -56,6 +74,7 @@ int ShowWindow(const ConsoleOptions& options) {
   window.resize(options.size);
   window.show();
   bool ok = options.history.isEmpty() || session.OpenHistory(options.history);
+  if (!options.report.isEmpty()) return ExitCode(ok && session.WriteReportOf(options.report, options.output));
   if (ok && !options.tab.isEmpty()) ok = session.ChooseTab(options.tab);
   if (!options.screenshot.isEmpty()) ok = WritePicture(window, options.screenshot, options.part) && ok;
   // A person goes on from here; without one the picture was all there was to do.
@@ -67,7 +86,7 @@ int ShowWindow(const ConsoleOptions& options) {
 bool WritePicture(QWidget& window, const QString& file, const QString& part) {
   QCoreApplication::processEvents();
   const QRect place = PlaceOf(window, part);
-  const bool written = !place.isEmpty() && window.grab(place).save(file);
+  const bool written = !place.isEmpty() && PictureOf(window, place).save(file);
   if (written) {
     std::cout << qt::FromQt(file) << std::endl;
   } else {
@@ -87,7 +106,7 @@ int RunConsole(int argc, char** argv) {
   const ConsoleOptions& options = *commandLine.options;
   if (options.headless) return RunScenarioHeadless(options);
   if (!HasDisplay()) {
-    if (options.screenshot.isEmpty() && options.scenario.isEmpty()) {
+    if (options.screenshot.isEmpty() && options.scenario.isEmpty() && options.report.isEmpty()) {
       std::cerr << "There is no display. --screenshot FILE.png draws the window off-screen." << std::endl;
       return ExitCode(false);
     }

@@ -6,8 +6,8 @@
 
 namespace quorvel::console {
 
-// Exit code 0: all went well; 1: the history could not be opened, the tab not chosen, the scenario not run or the
-// picture not written; 2: the arguments are not understood.
+// Exit code 0: all went well; 1: the history could not be opened, the tab not chosen, the scenario not run, the
+// picture or the report not written; 2: the arguments are not understood.
 int RunConsole(int argc, char** argv);
 
 // Writes what the window shows, or the control of it named `part`, as a PNG file and prints its name; says on the

@@ -58,11 +58,25 @@ void Declare(QCommandLineParser& parser) {
       {"screenshot", "Write a picture of the window; end then, unless a person sits in front of it.", "FILE.png"},
       {"part", "Of that picture only this control, for example fraOption.", "NAME"},
       {"scenario", "Run the scenario in FILE, print what it prints, and end.", "FILE"},
+      {"report", "Write an execution report of these runs to --output, for example 'LPROC|1|0|376;LPROC|1|0|375'.",
+       "KEYS"},
+      {"output", "File for the report that --report, or the scenario, asks for.", "FILE.pdf|FILE.html"},
       {"headless", "Run the scenario without windows."},
       {"size", "Size of the window in pixels (default 1180x760).", "WIDTHxHEIGHT"},
       {"dark", "Use dark colours."},
       {{"h", "help"}, "Show this help."},
   });
+}
+
+void CheckReport(const ConsoleOptions& options) {
+  if (!options.report.isEmpty() && options.history.isEmpty()) throw UsageError("--report needs --history");
+  if (!options.report.isEmpty() && options.output.isEmpty()) throw UsageError("--report needs --output");
+  if (options.output.isEmpty()) return;
+  if (options.report.isEmpty() && (options.scenario.isEmpty() || options.headless)) {
+    throw UsageError("--output needs --report, or a --scenario with windows");
+  }
+  const QString kind = QFileInfo(options.output).suffix().toLower();
+  if (kind != "pdf" && kind != "html") throw UsageError("--output: neither .pdf nor .html: " + options.output);
 }
 
 ConsoleOptions OptionsOf(const QCommandLineParser& parser) {
@@ -72,12 +86,15 @@ ConsoleOptions OptionsOf(const QCommandLineParser& parser) {
   options.screenshot = parser.value("screenshot");
   options.part = parser.value("part");
   options.scenario = parser.value("scenario");
+  options.report = parser.value("report");
+  options.output = parser.value("output");
   options.headless = parser.isSet("headless");
   options.dark = parser.isSet("dark");
   if (parser.isSet("from-type")) options.fromType = FromTypeOf(parser.value("from-type"));
   if (parser.isSet("process-id")) options.processId = NumberOf("--process-id", parser.value("process-id"));
   if (parser.isSet("size")) options.size = SizeOf(parser.value("size"));
   if (options.headless && options.scenario.isEmpty()) throw UsageError("--headless needs --scenario");
+  CheckReport(options);
   if (!options.part.isEmpty() && options.screenshot.isEmpty()) throw UsageError("--part needs --screenshot");
   return options;
 }

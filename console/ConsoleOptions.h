@@ -16,6 +16,8 @@ struct ConsoleOptions {
   QString screenshot;  // file to write a picture of the window to, "" = none
   QString part;        // name of the control to draw of the window, "" = all
   QString scenario;    // file to run, "" = none
+  QString report;      // keys of the runs to write a report of, "" = none
+  QString output;      // file to write a report to, "" = none
   bool headless = false;
   tlFromType fromType = tlFromType::tlOneProcess;
   std::int32_t processId = -1;

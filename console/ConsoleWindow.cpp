@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
+#include <QTimer>
 
 #include "qt/Guard.h"
 
@@ -17,9 +18,11 @@ constexpr const char* kProduct = "Quorvel console";
 
 }  // namespace
 
-ConsoleWindow::ConsoleWindow() {
+ConsoleWindow::ConsoleWindow() : noteEnds_(new QTimer(this)) {
   setWindowTitle(kProduct);
   MakeStatusBar();
+  noteEnds_->setSingleShot(true);
+  connect(noteEnds_, &QTimer::timeout, note_, &QLabel::clear);
 }
 
 void ConsoleWindow::Place(qt::ProcessLogWidget* viewer) {
@@ -32,7 +35,11 @@ void ConsoleWindow::Place(qt::ProcessLogWidget* viewer) {
   add(file, "&Open History...", QKeySequence::Open, [this] { AskForHistory(); });
   file->addSeparator();
   add(file, "&Quit", QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
-  menuBar()->addMenu("&View")->addAction(&viewer->refreshAction());
+  QMenu* const log = menuBar()->addMenu("&Log");
+  QMenu* const view = menuBar()->addMenu("&View");
+  view->addAction(&viewer->refreshAction());
+  view->addSeparator();
+  viewerMenus_ = std::make_unique<ViewerMenus>(*viewer, *log, *view);
   add(menuBar()->addMenu("&Help"), "&About", {}, [this] { ShowAbout(); });
   setCentralWidget(viewer);
   viewer->setFocus();
@@ -40,10 +47,24 @@ void ConsoleWindow::Place(qt::ProcessLogWidget* viewer) {
 
 void ConsoleWindow::MakeStatusBar() {
   statusBar()->setObjectName("stStatusBar");
-  auto* const panel = new QLabel(this);
-  panel->setObjectName("Panel1");
-  panel->setContentsMargins(8, 0, 8, 0);
-  statusBar()->addWidget(panel, 1);
+  const auto make = [this](const char* name) {
+    auto* const panel = new QLabel(this);
+    panel->setObjectName(name);
+    panel->setContentsMargins(8, 0, 8, 0);
+    return panel;
+  };
+  statusBar()->addWidget(make("Panel1"), 1);
+  note_ = make("Note");
+  statusBar()->addPermanentWidget(note_);
+  QLabel* const second = make("Panel2");
+  statusBar()->addPermanentWidget(second);
+  reading_ = std::make_unique<ReadingNotice>(*second);
+}
+
+void ConsoleWindow::ShowNote(const QString& text) {
+  constexpr int kNoteMilliseconds = 10'000;
+  note_->setText(text);
+  noteEnds_->start(kNoteMilliseconds);
 }
 
 void ConsoleWindow::AskForHistory() {

@@ -4,8 +4,14 @@
 #include <QMainWindow>
 #include <QString>
 #include <functional>
+#include <memory>
 
+#include "console/ReadingNotice.h"
+#include "console/ViewerMenus.h"
 #include "qt/ProcessLogWidget.h"
+
+class QLabel;
+class QTimer;
 
 namespace quorvel::console {
 
@@ -13,7 +19,7 @@ class ConsoleWindow final : public QMainWindow {
  public:
   ConsoleWindow();
 
-  // Puts the viewer on the form, once; the form owns it.
+  // Puts the viewer on the form, and its commands into the menus, once; the form owns it.
   void Place(qt::ProcessLogWidget* viewer);
 
   // What "Open History..." does with the URL of the file that was chosen.
@@ -22,12 +28,22 @@ class ConsoleWindow final : public QMainWindow {
   // The history that the title names.
   void ShowHistoryName(const QString& url);
 
+  // Says something in the status bar for a while, beside what the viewer says there.
+  void ShowNote(const QString& text);
+
+  // In the status bar's second panel; the first is the viewer's.
+  ReadingNotice& reading() { return *reading_; }
+
  private:
   void MakeStatusBar();
   void AskForHistory();
   void ShowAbout();
 
   std::function<void(const QString&)> openHistory_;
+  std::unique_ptr<ViewerMenus> viewerMenus_;
+  QLabel* note_ = nullptr;
+  QTimer* noteEnds_;
+  std::unique_ptr<ReadingNotice> reading_;
 };
 
 }  // namespace quorvel::console

@@ -3,6 +3,9 @@
 #include <QTabBar>
 #include <iostream>
 
+#include "console/ReportData.h"
+#include "console/ReportHtml.h"
+#include "console/ReportPages.h"
 #include "platform/Error.h"
 #include "qt/Convert.h"
 
@@ -13,12 +16,20 @@ void ConsolePlatform::ShowMessage(std::string_view text, std::string_view title)
   if (audience_ != Audience::kTerminal) QtPlatform::ShowMessage(text, title);
 }
 
+// A viewer shows the hourglass from where it begins to work.
+void ConsolePlatform::SetMousePointer(MousePointer pointer) {
+  QtPlatform::SetMousePointer(pointer);
+  if (pointer == MousePointer::kHourglass) reading_.Begin();
+}
+
 HistorySession::HistorySession(ConsoleWindow& window, tlFromType fromType, std::int32_t processId, Audience audience)
     : window_(window),
       platform_(window, audience),
       errors_(platform_),
-      viewer_(new qt::ProcessLogWidget(hub_, platform_, &window)) {
+      viewer_(new qt::ProcessLogWidget(hub_, platform_, &window)),
+      host_(std::make_unique<ViewerHost>(window, *viewer_, platform_, hub_)) {
   window_.Place(viewer_);
+  hub_.SetProgress([this](const hub::QueryProgress& progress) { window_.reading().Show(progress); });
   window_.SetOpenHistory([this](const QString& url) { OpenHistory(url); });
   viewer_->control().p_FromType(fromType);
   viewer_->control().p_ProcessId(processId);
@@ -26,7 +37,7 @@ HistorySession::HistorySession(ConsoleWindow& window, tlFromType fromType, std::
 
 HistorySession::~HistorySession() {
   window_.SetOpenHistory({});
-  // It reads through the hub.
+  // It reads through the hub, and its report windows show errors through its host.
   delete viewer_;
 }
 
@@ -68,6 +79,16 @@ bool HistorySession::ChooseTab(const QString& caption) {
     throw Error(SystemError::kInvalidCall, "There is no tab \"" + qt::FromQt(caption) + "\" that can be chosen");
   });
   return chosen;
+}
+
+bool HistorySession::WriteReportOf(const QString& keys, const QString& file) {
+  bool written = false;
+  datasource::Reporting(errors_, "Quorvel: console.WriteReport", [&] {
+    const ReportData data = CollectReport(hub_, viewer_->control().p_Connect(), platform_, qt::FromQt(keys));
+    SaveReport(WriteReport(data, platform_), file);
+    written = true;
+  });
+  return written;
 }
 
 }  // namespace quorvel::console

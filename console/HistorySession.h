@@ -3,8 +3,10 @@
 
 #include <QPointer>
 #include <cstdint>
+#include <memory>
 
 #include "console/ConsoleWindow.h"
+#include "console/ViewerHost.h"
 #include "control/Enumerations.h"
 #include "datasource/ErrorsProcess.h"
 #include "hub/RecordHub.h"
@@ -17,10 +19,13 @@ enum class Audience { kWindow, kTerminal, kBoth };
 
 class ConsolePlatform final : public qt::QtPlatform {
  public:
-  ConsolePlatform(QWidget& window, Audience audience) : QtPlatform(window), audience_(audience) {}
+  ConsolePlatform(ConsoleWindow& window, Audience audience)
+      : QtPlatform(window), reading_(window.reading()), audience_(audience) {}
   void ShowMessage(std::string_view text, std::string_view title) override;
+  void SetMousePointer(MousePointer pointer) override;
 
  private:
+  ReadingNotice& reading_;
   Audience audience_;
 };
 
@@ -40,6 +45,10 @@ class HistorySession {
   // Chooses the tab of this caption, as a click does. A tab that cannot be chosen is shown and logged as an error.
   bool ChooseTab(const QString& caption);
 
+  // Writes a report of the runs with these keys to a file, see CollectReport and SaveReport. What cannot be reported or
+  // written is shown and logged.
+  bool WriteReportOf(const QString& keys, const QString& file);
+
  private:
   void Show(const QString& url);
 
@@ -48,6 +57,7 @@ class HistorySession {
   datasource::ErrorsProcess errors_;
   hub::RecordHub hub_;
   QPointer<qt::ProcessLogWidget> viewer_;
+  std::unique_ptr<ViewerHost> host_;
 };
 
 }  // namespace quorvel::console

@@ -11,7 +11,7 @@ namespace quorvel::console {
 int RunScenarioHeadless(const ConsoleOptions& options);
 
 // Every viewer of the script gets a window of the console. With --screenshot a picture of the last one is written when
-// the script has ended.
+// the script has ended; with --output the report that it asks for.
 int RunScenarioOnQt(const ConsoleOptions& options);
 
 }  // namespace quorvel::console

@@ -1,0 +1,232 @@
+#include "console/ReportHtml.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+#include "qt/Convert.h"
+#include "util/PublicOstrana.h"
+
+namespace quorvel::console {
+namespace {
+
+using list::StateGroup;
+using qt::ToQt;
+
+constexpr const char* kHead = R"(<!DOCTYPE html>
+<html lang="en">
+<head>
+<meta charset="utf-8">
+<title>Execution report</title>
+<style>
+body { font-family: sans-serif; font-size: 9pt; color: #1f2933; background-color: #ffffff; }
+h1 { font-size: 17pt; font-weight: bold; margin-top: 2px; margin-bottom: 0px; }
+h2 { font-size: 12pt; font-weight: bold; margin-top: 18px; margin-bottom: 0px; }
+p { margin-top: 8px; margin-bottom: 8px; }
+hr { background-color: #1f2933; }
+table { border-collapse: collapse; margin-top: 8px; margin-bottom: 8px; }
+td, th { text-align: left; vertical-align: top; padding: 4px 8px; }
+.kind { font-size: 8pt; color: #52606d; margin-top: 6px; }
+.label, .facts th { font-size: 8pt; font-weight: normal; color: #52606d; }
+.facts td { font-weight: bold; }
+.outcome td { padding: 2px 8px; }
+.number { text-align: right; }
+.failures td { border: 1px solid #cbd2d9; }
+.bar { margin-top: 4px; margin-bottom: 0px; }
+.text { white-space: pre-wrap; }
+</style>
+</head>
+<body>
+)";
+constexpr const char* kFoot = "</body>\n</html>\n";
+
+constexpr StateGroup kGroups[] = {StateGroup::kOk, StateGroup::kNotOk, StateGroup::kInProgress,
+                                  StateGroup::kNotExecuted, StateGroup::kUnknown};
+
+// A text as HTML that shows it: characters that no document may hold become the replacement character.
+QString Escaped(std::string_view text) {
+  QString plain = ToQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n');
+  for (QChar& each : plain) {
+    const bool control = each.unicode() < 0x20 && each != '\n' && each != '\t';
+    if (control || each.unicode() == 0x7F) each = QChar::ReplacementCharacter;
+  }
+  return plain.toHtmlEscaped();
+}
+
+// A name within a line, which keeps its own direction of writing to itself.
+QString Isolated(std::string_view name) {
+  constexpr QChar kFirstStrongIsolate(0x2068);
+  constexpr QChar kPopIsolate(0x2069);
+  return kFirstStrongIsolate + Escaped(name) + kPopIsolate;
+}
+
+QString Counted(std::size_t count, const char* one, const char* many) {
+  return QString::number(count) + ' ' + (count == 1 ? one : many);
+}
+
+class Writer {
+ public:
+  explicit Writer(const Platform& platform) : platform_(platform) {}
+
+  QString Write(const ReportData& data) {
+    html_ = kHead;
+    for (const RunReport& each : data.runs) WriteRun(each);
+    if (data.runsLeftOut > 0) {
+      html_ += "<p><b>" + Counted(data.runsLeftOut, "run is", "runs are") + " left out.</b></p>\n";
+    }
+    return html_ + kFoot;
+  }
+
+ private:
+  QString Date(DateValue date) const {
+    return ToQt(util::strFormatDateTime(platform_, date, util::kDateAndTime)).toHtmlEscaped();
+  }
+
+  void WriteRun(const RunReport& run) {
+    const bool first = !std::exchange(begun_, true);
+    html_ += QString("<hr%1>\n<div class=\"kind\">Execution report</div>\n")
+                 .arg(first ? "" : " style=\"page-break-before: always\"");
+    if (!run.inHistory) {
+      html_ += QString("<h1>Batch No. %1</h1>\n<p>This run is not in the history any more.</p>\n").arg(run.run);
+      return;
+    }
+    html_ += "<h1 dir=\"auto\">" + Escaped(run.process) + "</h1>\n";
+    WriteFacts(run);
+    WriteOutcome(run.counts);
+    if (!run.sharedTasks.empty()) WriteSharedTasks(run.sharedTasks);
+    WriteStations(run);
+  }
+
+  void WriteFacts(const RunReport& run) {
+    const bool running = run.counts.inProgress > 0;
+    const QString end = run.end == 0 && running ? QString("in progress") : Date(run.end);
+    const QString duration = ToQt(run.duration).trimmed() + (run.end == 0 && running ? " so far" : "");
+    html_ += "<table class=\"facts\" width=\"100%\">\n<tr bgcolor=\"#eef1f5\">";
+    for (const char* const caption : {"Batch No.", "Start", "End", "Duration", "Place"}) {
+      html_ += QString("<th>%1</th>").arg(caption);
+    }
+    html_ += "</tr>\n<tr bgcolor=\"#eef1f5\">";
+    for (const QString& value : {QString::number(run.run), Date(run.start), end, duration, Escaped(run.place)}) {
+      html_ += "<td>" + value + "</td>";
+    }
+    html_ += "</tr>\n</table>\n";
+  }
+
+  void WriteOutcome(const list::StationCounts& counts) {
+    html_ += "<h2>Outcome: " + Escaped(list::RunStatus(counts)) + "</h2>\n<table class=\"outcome\" width=\"70%\">\n";
+    for (const StateGroup group : kGroups) WriteCount(list::StateGroupLabel(group), counts.Of(group), counts.total);
+    html_ +=
+        QString("<tr><td>Stations</td><td class=\"number\" align=\"right\">%1</td></tr>\n</table>\n").arg(counts.total);
+  }
+
+  // With a bar as long as the share of the stations is large.
+  void WriteCount(std::string_view label, std::int32_t count, std::int32_t total) {
+    html_ += "<tr><td width=\"24%\">" + Escaped(label) + "</td>";
+    html_ += QString("<td width=\"11%\" class=\"number\" align=\"right\">%1</td><td width=\"65%\">").arg(count);
+    if (count > 0 && total > 0) WriteBar(std::max(static_cast<int>(std::lround(100.0 * count / total)), 1));
+    html_ += "</td></tr>\n";
+  }
+
+  // A table is the one shape that both browsers and text documents draw alike.
+  void WriteBar(int percent) {
+    constexpr const char* kCell = "<td width=\"%1%\" bgcolor=\"%2\" style=\"padding: 0px; font-size: 5pt\">&nbsp;</td>";
+    html_ += "<table class=\"bar\" width=\"100%\" cellspacing=\"0\" cellpadding=\"0\"><tr>";
+    html_ += QString(kCell).arg(percent).arg("#7b8794");
+    if (percent < 100) html_ += QString(kCell).arg(100 - percent).arg("#eef1f5");
+    html_ += "</tr></table>";
+  }
+
+  void WriteSharedTasks(const std::vector<FailedTask>& tasks) {
+    html_ += "<h2>Failed once for all stations</h2>\n";
+    OpenFailures();
+    WriteTasks(tasks);
+    html_ += "</table>\n";
+  }
+
+  void WriteStations(const RunReport& run) {
+    const auto failed = static_cast<std::size_t>(run.counts.notOk);
+    if (failed == 0) {
+      html_ += "<p>No station failed.</p>\n";
+      return;
+    }
+    html_ += QString("<h2>Failing stations: %1</h2>\n").arg(failed);
+    for (const FailedStation& each : run.stations) WriteStation(each);
+    if (failed > run.stations.size()) {
+      html_ += "<p><b>" + Counted(failed - run.stations.size(), "failing station is", "failing stations are") +
+               " left out.</b></p>\n";
+    }
+  }
+
+  void WriteStation(const FailedStation& station) {
+    OpenFailures();
+    html_ += "<tr bgcolor=\"#eef1f5\"><td colspan=\"2\"><b>" + Isolated(station.name) + "</b>";
+    QStringList about;
+    for (const std::string_view each : {station.identifier, station.company}) {
+      if (!each.empty()) about.append(Isolated(each));
+    }
+    if (!about.isEmpty()) html_ += " <span class=\"label\">" + about.join(", ") + "</span>";
+    html_ += "</td><td class=\"label\">" + Between(station.start, station.end) + "</td></tr>\n";
+    if (!station.report.empty()) {
+      html_ +=
+          "<tr><td colspan=\"3\"><div class=\"text\" dir=\"auto\">" + Escaped(station.report) + "</div></td></tr>\n";
+    }
+    WriteTasks(station.tasks);
+    html_ += "</table>\n";
+  }
+
+  QString Between(DateValue start, DateValue end) const {
+    if (start == 0 && end == 0) return {};
+    return Date(start) + QString::fromUtf8(" \u2013 ") + Date(end);
+  }
+
+  void OpenFailures() { html_ += "<table class=\"failures\" width=\"100%\">\n"; }
+
+  void WriteTasks(const std::vector<FailedTask>& tasks) {
+    for (const FailedTask& task : tasks) {
+      WriteFailure("Task", 0, task.name, {}, task.report);
+      for (const FailedStep& step : task.steps) {
+        WriteFailure("Step", 1, step.name, step.settings, step.report);
+        WriteCommands(step);
+      }
+    }
+  }
+
+  void WriteCommands(const FailedStep& step) {
+    for (const FailedCommand& each : step.commands) {
+      WriteFailure("Command", 2, each.text, "result " + std::to_string(each.result), each.report);
+    }
+    if (step.commandsLeftOut > 0) {
+      const QString more = Counted(step.commandsLeftOut, "failed command is", "failed commands are") + " left out";
+      WriteFailure("Command", 2, {}, qt::FromQt(more), {});
+    }
+  }
+
+  // A row: what failed, further in for what is part of what stands above, and the report on it.
+  void WriteFailure(const char* what, int depth, std::string_view name, std::string_view more,
+                    std::string_view report) {
+    constexpr int kIndent = 14;
+    const QString indent = QString("style=\"margin-left: %1px\"").arg(depth * kIndent);
+    html_ += QString("<tr><td width=\"12%\" class=\"label\">%1</td>").arg(what);
+    html_ += "<td width=\"40%\">";
+    if (!name.empty()) html_ += QString("<div class=\"text\" dir=\"auto\" %1>").arg(indent) + Escaped(name) + "</div>";
+    if (!more.empty()) {
+      html_ += QString("<div class=\"text label\" dir=\"auto\" %1>").arg(indent) + Escaped(more) + "</div>";
+    }
+    html_ += "</td><td width=\"48%\"><div class=\"text\" dir=\"auto\">" + Escaped(report) + "</div></td></tr>\n";
+  }
+
+  const Platform& platform_;
+  QString html_;
+  bool begun_ = false;
+};
+
+}  // namespace
+
+ReportText WriteReport(const ReportData& data, const Platform& platform) {
+  const std::string made = util::strFormatDateTime(platform, data.made, util::kDateAndTime);
+  return {Writer(platform).Write(data), "Execution report, " + ToQt(made)};
+}
+
+}  // namespace quorvel::console

@@ -1,0 +1,46 @@
+#include "console/ViewerHost.h"
+
+#include "console/ReportData.h"
+#include "console/ReportHtml.h"
+#include "console/ReportWindow.h"
+#include "console/RunContext.h"
+#include "control/Hourglass.h"
+#include "qt/TreePane.h"
+
+namespace quorvel::console {
+
+ViewerHost::ViewerHost(ConsoleWindow& window, qt::ProcessLogWidget& viewer, Platform& platform,
+                       datasource::RecordSourceFactory& factory)
+    : window_(window),
+      viewer_(viewer),
+      platform_(platform),
+      factory_(factory),
+      errors_(platform),
+      subscription_(viewer, *this) {}
+
+void ViewerHost::PrintReport(const std::string& f_strCurrentProcessIdList) {
+  datasource::Reporting(errors_, "Quorvel: console.PrintReport", [&] {
+    const Hourglass hourglass(platform_);
+    const std::int32_t connection = viewer_.control().p_Connect();
+    const ReportData data = CollectReport(factory_, connection, platform_, f_strCurrentProcessIdList);
+    // It goes with the viewer, whose history it tells of.
+    auto* const window = new ReportWindow(WriteReport(data, platform_), errors_, &viewer_);
+    window->show();
+  });
+}
+
+void ViewerHost::UpdateAlarm() {
+  window_.ShowNote("Alarms were changed");
+}
+
+void ViewerHost::GoToLog(const std::string& f_strKey) {
+  datasource::Reporting(errors_, "Quorvel: console.GoToLog", [&] {
+    const std::string run = RunOfContext(f_strKey);
+    if (run.empty()) return window_.ShowNote("There is nothing to go to");
+    const bool shown = GoToRun(viewer_.control(), factory_, run);
+    window_.ShowNote(shown ? "" : "The execution is not shown here, or not in the history any more");
+    if (shown) viewer_.tree().setFocus();
+  });
+}
+
+}  // namespace quorvel::console
