@@ -1,7 +1,6 @@
 // Sorting a list by a click on a header, against std::sort of the same values when they are read and parsed already.
 #include <algorithm>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <random>
@@ -11,9 +10,9 @@
 #include <utility>
 #include <vector>
 
+#include "BarePlatform.h"
 #include "Measure.h"
 #include "platform/Dates.h"
-#include "platform/StandardPlatform.h"
 #include "util/ListViewSort.h"
 #include "widgets/ListView.h"
 
@@ -26,17 +25,6 @@ using widgets::ColumnTag;
 constexpr double kDateLimit = 0.9;
 constexpr double kNumberLimit = 0.9;
 constexpr double kTextLimit = 1.5;
-
-// What a sort asks of a platform: the form of dates.
-class BarePlatform : public StandardPlatform {
- public:
-  void ShowMessage(std::string_view /*text*/, std::string_view /*title*/) override {}
-  void SetMousePointer(MousePointer /*pointer*/) override {}
-  void ClearClipboard() override {}
-  void SetClipboardText(std::string_view /*text*/) override {}
-  void OpenFile(const std::filesystem::path& /*file*/) override {}
-  void SetHostStatusText(std::string_view /*text*/) override {}
-};
 
 // A list of one column.
 template <class Value>
@@ -70,7 +58,7 @@ class ColumnRows : public widgets::RowSource {
 
 template <class Value>
 Comparison CompareSorts(std::vector<Value> values, ColumnTag tag) {
-  const BarePlatform platform;
+  const bench::BarePlatform platform;
   const auto rows = std::make_shared<ColumnRows<Value>>(values);
   return bench::Compare(
       [&] {

@@ -22,6 +22,7 @@ class BenchPlatform : public StandardPlatform {
   void ClearClipboard() override {}
   void SetClipboardText(std::string_view /*text*/) override {}
   void OpenFile(const std::filesystem::path& /*file*/) override {}
+  void OpenFileWith(const std::filesystem::path& /*file*/) override {}
   void SetHostStatusText(std::string_view /*text*/) override {}
   DateValue Now() const override { return DateFromCivil({2026, 11, 20, 12, 0, 0}); }
 };
