@@ -1,5 +1,6 @@
 #include "qt/QtPlatform.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -23,7 +24,10 @@ QtPlatform::~QtPlatform() {
 }
 
 void QtPlatform::ShowMessage(std::string_view text, std::string_view title) {
-  QMessageBox box(QMessageBox::NoIcon, ToQt(title), ToQt(text), QMessageBox::Ok, widget_ ? widget_->window() : nullptr);
+  // Over the dialog that is open, if one is: behind it nobody could answer.
+  QWidget* const dialog = QApplication::activeModalWidget();
+  QWidget* const window = widget_ ? widget_->window() : nullptr;
+  QMessageBox box(QMessageBox::NoIcon, ToQt(title), ToQt(text), QMessageBox::Ok, dialog != nullptr ? dialog : window);
   box.setTextFormat(Qt::PlainText);
   WithDefaultPointer([&] { box.exec(); });
 }

@@ -57,7 +57,7 @@ std::string AttachmentOf(const widgets::ListView& list, std::size_t row) {
 std::string RunKeyIn(std::string_view key) {
   constexpr std::size_t kRunFields = 3;  // process, flag, run
   const std::vector<std::string_view> fields = util::SplitKey(key);
-  for (const std::size_t prefix : {0, 1}) {
+  for (const std::size_t prefix : {std::size_t{0}, std::size_t{1}}) {
     if (prefix >= fields.size()) break;
     const auto* const place = std::ranges::find(kRunPlaces, fields[prefix], &RunPlace::prefix);
     if (place == std::end(kRunPlaces)) continue;
