@@ -50,13 +50,15 @@ ReadingNotice::ReadingNotice(QLabel& panel) : panel_(panel) {
   }
   const QMargins margins = panel_.contentsMargins();
   panel_.setMinimumWidth(width + margins.left() + margins.right() + 2 * panel_.margin());
+  end_.setSingleShot(true);
+  end_.setInterval(0);
+  qt::On(&end_, &QTimer::timeout, this, [this](auto&&...) { End(); });
 }
 
 void ReadingNotice::Begin() {
   if (since_.isValid()) return;
   since_.start();
-  QMetaObject::invokeMethod(
-      this, [this] { qt::Guarded([this] { End(); }); }, Qt::QueuedConnection);
+  end_.start();
 }
 
 void ReadingNotice::Show(const hub::QueryProgress& progress) {

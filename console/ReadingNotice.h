@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QObject>
+#include <QTimer>
 #include <string_view>
 
 #include "hub/Progress.h"
@@ -29,6 +30,7 @@ class ReadingNotice final : public QObject {
   void End();
 
   QLabel& panel_;
+  QTimer end_;           // runs out as soon as Qt looks at its events
   QElapsedTimer since_;  // when the request began; not valid between requests
 };
 

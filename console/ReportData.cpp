@@ -24,10 +24,7 @@ namespace quorvel::console {
 namespace {
 
 using datasource::Answer;
-using datasource::CommandLogRecords;
 using datasource::ProcessLogRecords;
-using datasource::StepLogRecords;
-using datasource::TaskRunRecords;
 
 constexpr std::int32_t kReserved = 0;
 

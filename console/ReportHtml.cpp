@@ -124,15 +124,15 @@ class Writer {
   // With a bar as long as the share of the stations is large.
   void WriteCount(std::string_view label, std::int32_t count, std::int32_t total) {
     html_ += "<tr><td width=\"24%\">" + Escaped(label) + "</td>";
-    html_ += QString("<td width=\"11%\" class=\"number\" align=\"right\">%1</td><td width=\"65%\">").arg(count);
+    html_ += QString(R"(<td width="11%" class="number" align="right">%1</td><td width="65%">)").arg(count);
     if (count > 0 && total > 0) WriteBar(std::max(static_cast<int>(std::lround(100.0 * count / total)), 1));
     html_ += "</td></tr>\n";
   }
 
   // A table is the one shape that both browsers and text documents draw alike.
   void WriteBar(int percent) {
-    constexpr const char* kCell = "<td width=\"%1%\" bgcolor=\"%2\" style=\"padding: 0px; font-size: 5pt\">&nbsp;</td>";
-    html_ += "<table class=\"bar\" width=\"100%\" cellspacing=\"0\" cellpadding=\"0\"><tr>";
+    constexpr const char* kCell = R"(<td width="%1%" bgcolor="%2" style="padding: 0px; font-size: 5pt">&nbsp;</td>)";
+    html_ += R"(<table class="bar" width="100%" cellspacing="0" cellpadding="0"><tr>)";
     html_ += QString(kCell).arg(percent).arg("#7b8794");
     if (percent < 100) html_ += QString(kCell).arg(100 - percent).arg("#eef1f5");
     html_ += "</tr></table>";
@@ -161,7 +161,7 @@ class Writer {
 
   void WriteStation(const FailedStation& station) {
     OpenFailures();
-    html_ += "<tr bgcolor=\"#eef1f5\"><td colspan=\"2\"><b>" + Isolated(station.name) + "</b>";
+    html_ += R"(<tr bgcolor="#eef1f5"><td colspan="2"><b>)" + Isolated(station.name) + "</b>";
     QStringList about;
     for (const std::string_view each : {station.identifier, station.company}) {
       if (!each.empty()) about.append(Isolated(each));
@@ -169,8 +169,7 @@ class Writer {
     if (!about.isEmpty()) html_ += " <span class=\"label\">" + about.join(", ") + "</span>";
     html_ += "</td><td class=\"label\">" + Between(station.start, station.end) + "</td></tr>\n";
     if (!station.report.empty()) {
-      html_ +=
-          "<tr><td colspan=\"3\"><div class=\"text\" dir=\"auto\">" + Escaped(station.report) + "</div></td></tr>\n";
+      html_ += R"(<tr><td colspan="3"><div class="text" dir="auto">)" + Escaped(station.report) + "</div></td></tr>\n";
     }
     WriteTasks(station.tasks);
     html_ += "</table>\n";
@@ -208,13 +207,13 @@ class Writer {
                     std::string_view report) {
     constexpr int kIndent = 14;
     const QString indent = QString("style=\"margin-left: %1px\"").arg(depth * kIndent);
-    html_ += QString("<tr><td width=\"12%\" class=\"label\">%1</td>").arg(what);
+    html_ += QString(R"(<tr><td width="12%" class="label">%1</td>)").arg(what);
     html_ += "<td width=\"40%\">";
-    if (!name.empty()) html_ += QString("<div class=\"text\" dir=\"auto\" %1>").arg(indent) + Escaped(name) + "</div>";
+    if (!name.empty()) html_ += QString(R"(<div class="text" dir="auto" %1>)").arg(indent) + Escaped(name) + "</div>";
     if (!more.empty()) {
-      html_ += QString("<div class=\"text label\" dir=\"auto\" %1>").arg(indent) + Escaped(more) + "</div>";
+      html_ += QString(R"(<div class="text label" dir="auto" %1>)").arg(indent) + Escaped(more) + "</div>";
     }
-    html_ += "</td><td width=\"48%\"><div class=\"text\" dir=\"auto\">" + Escaped(report) + "</div></td></tr>\n";
+    html_ += R"(</td><td width="48%"><div class="text" dir="auto">)" + Escaped(report) + "</div></td></tr>\n";
   }
 
   const Platform& platform_;

@@ -2,10 +2,12 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QScreen>
 #include <QTextDocument>
 #include <algorithm>
 
@@ -15,17 +17,19 @@
 namespace quorvel::console {
 namespace {
 
-constexpr double kFooterPoints = 8;
-constexpr double kPointsPerInch = 72;
+// In pixels of the screen.
+constexpr int kFooterText = 11;
+constexpr int kFooterHeight = 28;
 constexpr QRgb kFooterColour = 0xFF52606D;
 
 // The document in pages that fit the device, and the room under each for its footer.
 class Pages {
  public:
+  // Laid out as on the screen and drawn larger: text documents do not scale every length themselves.
   Pages(const QString& html, QPagedPaintDevice& device)
-      : footerHeight_(device.logicalDpiY() * kFooterPoints * 2.5 / kPointsPerInch),
-        size_(device.width(), device.height() - footerHeight_) {
-    document_.documentLayout()->setPaintDevice(&device);
+      : scale_(device.logicalDpiY() / QGuiApplication::primaryScreen()->logicalDotsPerInchY()),
+        size_(device.width() / scale_, device.height() / scale_ - kFooterHeight) {
+    document_.setUseDesignMetrics(true);
     document_.setDocumentMargin(0);
     document_.setHtml(html);
     document_.setPageSize(size_);
@@ -40,6 +44,7 @@ class Pages {
     const double top = (page - 1) * size_.height();
     context.clip = QRectF(QPointF(0, top), size_);
     painter.save();
+    painter.scale(scale_, scale_);
     painter.translate(0, -top);
     painter.setClipRect(context.clip);
     document_.documentLayout()->draw(&painter, context);
@@ -47,18 +52,21 @@ class Pages {
   }
 
   void DrawFooter(QPainter& painter, const QString& footer, int page) const {
+    painter.save();
+    painter.scale(scale_, scale_);
     QFont font = document_.defaultFont();
-    font.setPointSizeF(kFooterPoints);
+    font.setPixelSize(kFooterText);
     painter.setFont(font);
     painter.setPen(QColor(kFooterColour));
-    const QRectF place(0, size_.height(), size_.width(), footerHeight_);
+    const QRectF place(0, size_.height(), size_.width(), kFooterHeight);
     painter.drawText(place, Qt::AlignLeft | Qt::AlignBottom, footer);
     painter.drawText(place, Qt::AlignRight | Qt::AlignBottom, QString("Page %1 of %2").arg(page).arg(Count()));
+    painter.restore();
   }
 
  private:
   QTextDocument document_;
-  double footerHeight_;
+  double scale_;
   QSizeF size_;
 };
 

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScopeGuard>
+#include <QTimer>
 
 #include "qt/Guard.h"
 
@@ -56,7 +57,7 @@ void EscapeWatch::LetGo() {
   for (auto& [target, event] : std::exchange(waiting_, {})) {
     if (!target) continue;
     if (event->type() == QEvent::Close) {
-      QMetaObject::invokeMethod(target, &QWidget::close, Qt::QueuedConnection);
+      QTimer::singleShot(0, target, SLOT(close()));
     } else {
       QCoreApplication::postEvent(target, event.release());
     }

@@ -3,8 +3,8 @@
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRegion>
 #include <QScrollBar>
-#include <QStyleOptionFocusRect>
 #include <QTableView>
 #include <algorithm>
 
@@ -93,14 +93,16 @@ void ListHeader::focusOutEvent(QFocusEvent* event) {
 
 void ListHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
   Guarded([&] {
+    // The style leaves a clip behind that lets nothing through.
+    painter->save();
     QHeaderView::paintSection(painter, rect, logicalIndex);
+    painter->restore();
     if (!hasFocus() || logicalIndex != column()) return;
-    QStyleOptionFocusRect frame;
-    frame.initFrom(this);
-    frame.state |= QStyle::State_KeyboardFocusChange;  // styles draw it for those who use keys
-    frame.rect = rect.adjusted(1, 1, -2, -1);
-    frame.backgroundColor = palette().color(QPalette::Button);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, painter, this);
+    // Styles frame a button, but no part of a header.
+    constexpr int kFrame = 2;
+    QRegion frame(rect);
+    frame -= rect.adjusted(kFrame, kFrame, -kFrame, -kFrame);
+    for (const QRect& edge : frame) painter->fillRect(edge, palette().color(QPalette::Highlight));
   });
 }
 

@@ -248,6 +248,7 @@ QModelIndex ListPane::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
 void ListPane::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   Guarded([&] {
     // QTableView itself would make an index of every selected cell, to tell a screen reader of the first one.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QAbstractItemView::selectionChanged(selected, deselected);
     QAccessibleEvent told(this, QAccessible::SelectionWithin);
     QAccessible::updateAccessibility(&told);

@@ -145,7 +145,11 @@ void ucProcessLog::BuildAgain() {
   // The host's whole log list is the alarms view here, though its tab click builds nothing. So are alarms that a host
   // built under the tab of another view.
   const bool alarms = f_tlFromType == tlFromType::tlLogs || (tabRenamed_ && shown_.view == View::kAlarms);
-  BuildView(alarms ? View::kAlarms : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption()), StandingNow());
+  const bool imports = f_tlFromType != tlFromType::tlAllImports && tabRenamed_ && shown_.view == View::kImports;
+  const View view = alarms    ? View::kAlarms
+                    : imports ? View::kImports
+                              : ViewOfTab(f_tlFromType, controls_.sstProcessLog.currentCaption());
+  BuildView(view, StandingNow());
 }
 
 void ucProcessLog::ClearPanes() {

@@ -48,6 +48,10 @@ TEST(CommandLine, IsUnderstoodOrExplained) {
                                    {"--no-such"},
                                    {"stray"},
                                    {"--headless"},
+                                   {"--report", "LPROC|1|0|1", "--output", "a.pdf"},
+                                   {"--history", "sqlite:a.db", "--report", "LPROC|1|0|1"},
+                                   {"--history", "sqlite:a.db", "--report", "LPROC|1|0|1", "--output", "a.txt"},
+                                   {"--output", "a.pdf"},
                                    {"--history"}}) {
     const CommandLine read = Read(wrong);
     EXPECT_FALSE(read.options) << wrong.join(' ').toStdString();

@@ -338,6 +338,10 @@ void Walker::BuildAsWalked(ucProcessLog& walked) {
   ProcessLogControls& to = made.controls();
   std::int32_t zero = 0;
   std::int32_t import = 1;
+  // Before the view: a check builds or lists something, and the host's views would give way.
+  port().Check(to.chkCommunicationsFilter, from.chkCommunicationsFilter.checked());
+  port().Check(to.chkAlarmFilter, from.chkAlarmFilter.checked());
+  port().Check(to.chkGroupByDay, from.chkGroupByDay.checked());
   const std::string& caption = from.fraList.text();
   if (caption.starts_with(NameOf(View::kProcesses))) made.m_GetLogByProcess();
   if (caption.starts_with(NameOf(View::kUsers))) made.m_GetLogByUser();
@@ -356,9 +360,6 @@ void Walker::BuildAsWalked(ucProcessLog& walked) {
     port().Choose(to.cboDuringUnit, *row);
   }
   port().Type(to.txtDuring, from.txtDuring.text());
-  port().Check(to.chkCommunicationsFilter, from.chkCommunicationsFilter.checked());
-  port().Check(to.chkAlarmFilter, from.chkAlarmFilter.checked());
-  port().Check(to.chkGroupByDay, from.chkGroupByDay.checked());
   ArrangeGroups(from.lstGroupBy);
   Refresh();
 }
