@@ -6,24 +6,18 @@
 #include <functional>
 #include <string_view>
 
+#include "BarePlatform.h"
 #include "Painting.h"
 #include "control/ucProcessLog.h"
 #include "hub/RecordHub.h"
-#include "platform/StandardPlatform.h"
 #include "qt/ProcessLogWidget.h"
 
 namespace quorvel::bench {
 
 // A fixed present, and nobody to read a message: one ends the benchmark.
-class BenchPlatform : public StandardPlatform {
+class BenchPlatform : public BarePlatform {
  public:
   void ShowMessage(std::string_view text, std::string_view title) override;
-  void SetMousePointer(MousePointer /*pointer*/) override {}
-  void ClearClipboard() override {}
-  void SetClipboardText(std::string_view /*text*/) override {}
-  void OpenFile(const std::filesystem::path& /*file*/) override {}
-  void OpenFileWith(const std::filesystem::path& /*file*/) override {}
-  void SetHostStatusText(std::string_view /*text*/) override {}
   DateValue Now() const override { return DateFromCivil({2026, 11, 20, 12, 0, 0}); }
 };
 

@@ -27,4 +27,10 @@ void OfferAccessibleRoles() {
   QAccessible::installFactory(MakeInterface);
 }
 
+void NameWidgets(const QWidget& parent, std::span<const SpokenName> names) {
+  for (const SpokenName& each : names) {
+    parent.findChild<QWidget*>(QLatin1String(each.widget))->setAccessibleName(QLatin1String(each.name));
+  }
+}
+
 }  // namespace quorvel::qt

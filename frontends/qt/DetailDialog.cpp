@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "qt/Accessibility.h"
 #include "qt/Contents.h"
 #include "qt/Convert.h"
 #include "qt/Guard.h"
@@ -17,11 +18,6 @@
 namespace quorvel::qt {
 namespace {
 
-// What a screen reader says of widgets without a caption.
-struct SpokenName {
-  const char* widget;
-  const char* name;
-};
 constexpr SpokenName kSpokenNames[] = {
     {"rtbDetail", "Description"},
     {"cmdPrevious", "Previous entry"},
@@ -73,9 +69,7 @@ DetailDialog::DetailDialog(dlgLVDetail& detail, QWidget* parent)
   MakeButton(c_.cmdNext, &dlgLVDetail::cmdNext_Click);
   MakeButton(c_.cmdCopytoClipboard, &dlgLVDetail::cmdCopytoClipboard_Click);
   MakeButton(c_.cmdClose, &dlgLVDetail::cmdClose_Click)->setDefault(true);
-  for (const SpokenName& each : kSpokenNames) {
-    findChild<QWidget*>(QLatin1String(each.widget))->setAccessibleName(QLatin1String(each.name));
-  }
+  NameWidgets(*this, kSpokenNames);
   c_.form.Observe(this);
   DetailDialog::ControlChanged(c_.form);
 }

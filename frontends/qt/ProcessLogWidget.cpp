@@ -36,11 +36,6 @@
 namespace quorvel::qt {
 namespace {
 
-// What a screen reader says of widgets that have no label before them and no caption of their own.
-struct SpokenName {
-  const char* widget;
-  const char* name;
-};
 constexpr SpokenName kSpokenNames[] = {
     {"fraOption", "Options"},
     {"sstProcessLog", "Views"},
@@ -167,9 +162,7 @@ ProcessLogWidget::ProcessLogWidget(datasource::RecordSourceFactory& factory, Pla
   MakeTabKeys();
   MakeSplitterKey();
   OrderTabKey();
-  for (const SpokenName& each : kSpokenNames) {
-    findChild<QWidget*>(QLatin1String(each.widget))->setAccessibleName(QLatin1String(each.name));
-  }
+  NameWidgets(*this, kSpokenNames);
   MakeMenus();
   new DetailDialog(control_.detail(), this);
 }
