@@ -110,7 +110,7 @@ QPushButton* DetailDialog::MakeButton(widgets::Button& model, void (dlgLVDetail:
     DrawContent(model, *button);
     button->setIcon(icons_.Of(model.picture()));
   });
-  On(button, &QPushButton::clicked, this, [this, click](bool) { (detail_.*click)(); });
+  On(button, &QPushButton::clicked, this, [this, click](auto&&...) { (detail_.*click)(); });
   return button;
 }
 
