@@ -8,7 +8,6 @@
 namespace quorvel::scenario {
 
 using widgets::NodeId;
-using widgets::RowRange;
 using widgets::RowRanges;
 
 // A press on one of several selected rows makes it the selected item; that the others go is the end of the press, and
