@@ -92,11 +92,12 @@ QByteArray PdfOf(const ReportText& report) {
 
 void PaintReport(const ReportText& report, QPagedPaintDevice& device, PageRange range) {
   const Pages pages(report.html, device);
+  const int first = std::max(range.first, 1);
   const int last = range.last > 0 ? std::min(range.last, pages.Count()) : pages.Count();
   QPainter painter;
   bool going = painter.begin(&device);
-  for (int page = range.first; going && page <= last; ++page) {
-    if (page > range.first) going = device.newPage();
+  for (int page = first; going && page <= last; ++page) {
+    if (page > first) going = device.newPage();
     if (!going) break;
     pages.Draw(painter, page);
     pages.DrawFooter(painter, report.footer, page);

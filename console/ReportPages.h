@@ -8,10 +8,10 @@
 
 namespace quorvel::console {
 
-// Which pages to print, counted from 1.
+// Which pages to print, counted from 1; 0 = the first, the last one, as a print dialog says when all are wanted.
 struct PageRange {
-  int first = 1;
-  int last = 0;  // 0 = the last one
+  int first = 0;
+  int last = 0;
 };
 
 // Draws the report on pages of the device's own size and margins, each with the footer and its number at its foot.

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QPrinter>
 #include <QTextDocument>
 #include <algorithm>
 #include <filesystem>
@@ -163,6 +164,21 @@ TEST_F(ConsoleReportTest, IsWrittenWholeOrNotAtAll) {
     EXPECT_EQ(error.number(), 75);
     EXPECT_THAT(error.description(), HasSubstr("/no/such/folder/report.pdf"));
   }
+}
+
+TEST_F(ConsoleReportTest, PrintsTheWantedPages) {
+  const ReportText report = WriteReport(Collect("LPROC|10|0|102;LPROC|11|0|100;LPROC|13|1|104"), platform);
+  const std::filesystem::path file = platform.folder / "printed.pdf";
+  const auto printed = [&](PageRange range) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(file));
+    PaintReport(report, printer, range);
+    return FileText(file);
+  };
+  EXPECT_THAT(printed({0, 0}), HasSubstr("/Count 3")) << "as a dialog says all";
+  EXPECT_THAT(printed({2, 2}), HasSubstr("/Count 1"));
+  EXPECT_THAT(printed({2, 9}), HasSubstr("/Count 2"));
 }
 
 }  // namespace
