@@ -53,7 +53,7 @@ std::vector<std::filesystem::path> FilesOldestFirst(const std::filesystem::path&
 // Reads as much as there is, compressed or not. Gives what went wrong, "" for nothing.
 std::string ReadAll(const std::filesystem::path& path, std::string& text) {
   errno = 0;
-  const GzFile file(gzopen(path.c_str(), "rb"));
+  const GzFile file(gzopen(path.string().c_str(), "rb"));
   if (!file) return std::strerror(errno != 0 ? errno : ENOMEM);
   gzbuffer(file.get(), kChunk);
   std::array<char, kChunk> chunk{};

@@ -1,7 +1,5 @@
 // Files that are no history, or cannot be read: a clear error, and the file stays as it was.
 #include <gmock/gmock.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <functional>
@@ -117,35 +115,6 @@ TEST(OpeningTest, LockedHistoryIsRefusedAndReadableAfterwards) {
     EXPECT_EQ(hub.OpenConnection(history.url()), 1);
   }
   EXPECT_EQ(FilesBeside(history.file()), 1);
-}
-
-// Runs `check` in a child process that is nobody's, and wants it to give true.
-bool HoldsForNobody(const std::function<bool()>& check) {
-  constexpr uid_t kNobody = 65534;
-  const pid_t child = fork();
-  if (child == 0) _exit(seteuid(geteuid() == 0 ? kNobody : geteuid()) == 0 && check() ? 0 : 1);
-  int status = 1;
-  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
-TEST(OpeningTest, FileRightsAreRespected) {
-  const SmallHistory history;
-  fs::permissions(history.file().parent_path(), fs::perms{0555});
-  fs::permissions(history.file(), fs::perms{0444});
-  const std::string before = Read(history.file());
-  EXPECT_TRUE(HoldsForNobody([&] {
-    hub::RecordHub hub;
-    return hub.OpenConnection(history.url()) == 1;
-  })) << "a file that cannot be written is opened for reading";
-  EXPECT_EQ(Read(history.file()), before);
-
-  fs::permissions(history.file(), fs::perms{0000});
-  EXPECT_TRUE(HoldsForNobody([&] {
-    hub::RecordHub hub;
-    const Error error = Caught([&] { hub.OpenConnection(history.url()); });
-    return error.number() == Number(SystemError::kPermissionDenied).number() &&
-           error.description().find("(SQLite 14), Permission denied") != std::string::npos;
-  }));
 }
 
 TEST(OpeningTest, CreatingKeepsWhatIsThere) {

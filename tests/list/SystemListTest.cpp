@@ -29,8 +29,10 @@ class CountingPlatform : public test::RecordingPlatform {
 
 TEST(SystemList, AttachmentsAreLookedUpWhenTheyAreShownAndOnce) {
   CountingPlatform platform;
-  const std::string there = (platform.folder / "\xC3\xA9tat.log").string();
-  std::ofstream(std::filesystem::path(there)) << "x";
+  const std::filesystem::path file = platform.folder / u8"\u00E9tat.log";
+  std::ofstream(file) << "x";
+  const std::u8string name = file.u8string();
+  const std::string there(name.begin(), name.end());
   datasource::TaskSchedulerLogRecords records;
   records.lngLevel = MakeColumn<std::int32_t>({1, 2, 3, 0});
   records.lngLogId = MakeColumn<std::int32_t>({40, 39, 38, 37});

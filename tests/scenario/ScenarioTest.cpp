@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 #include "scenario/ProgramMain.h"
@@ -99,12 +100,13 @@ TEST_F(ScenarioTest, FaultsWaitForTheirTurnAndHappenOnce) {
           "call m_GetLogAll 1\ncall m_GetLogAll 2\ncall m_GetLogAll 3\ncall m_GetLogAll 0\ncall m_GetLogAll 5\n"))
       << problems_.str();
   const std::string text = out_.str();
-  EXPECT_THAT(text.substr(text.find("> call m_GetLogAll 1")),
-              testing::MatchesRegex("> call m_GetLogAll 1\nstate = 1\n"
-                                    "> call m_GetLogAll 2\nerror 80040205\nsource [^\n]*\ndescription [^\n]*\n"
-                                    "> call m_GetLogAll 3\nerror 5\nsource [^\n]*\ndescription [^\n]*\n"
-                                    "> call m_GetLogAll 0\nstate = 0\n"
-                                    "> call m_GetLogAll 5\nstate = 5\n"));
+  const std::string calls = text.substr(text.find("> call m_GetLogAll 1"));
+  EXPECT_TRUE(std::regex_match(calls, std::regex("> call m_GetLogAll 1\nstate = 1\n"
+                                                 "> call m_GetLogAll 2\nerror 80040205\nsource .*\ndescription .*\n"
+                                                 "> call m_GetLogAll 3\nerror 5\nsource .*\ndescription .*\n"
+                                                 "> call m_GetLogAll 0\nstate = 0\n"
+                                                 "> call m_GetLogAll 5\nstate = 5\n")))
+      << calls;
 }
 
 TEST_F(ScenarioTest, TheProgramTellsByItsExitCodeWhatCameOfIt) {

@@ -49,9 +49,11 @@ class AptImport : public testing::Test {
  protected:
   AptImport() { std::filesystem::create_directory(folder_.path() / "apt"); }
 
-  void Log(const char* name, std::string_view text) const { std::ofstream(folder_.path() / name) << text; }
+  void Log(const char* name, std::string_view text) const {
+    std::ofstream(folder_.path() / name, std::ios::binary) << text;
+  }
   void GzLog(const char* name, const std::string& text) const {
-    gzFile_s* const file = gzopen((folder_.path() / name).c_str(), "wb");
+    gzFile_s* const file = gzopen((folder_.path() / name).string().c_str(), "wb");
     gzwrite(file, text.data(), static_cast<unsigned>(text.size()));
     gzclose(file);
   }

@@ -1,0 +1,18 @@
+# What both cross compilers have in common. The -posix variants are named because the default ones have no std::thread.
+set(CMAKE_SYSTEM_NAME Windows)
+string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR ${mingw_triplet})
+set(CMAKE_C_COMPILER ${mingw_triplet}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${mingw_triplet}-g++-posix)
+set(CMAKE_RC_COMPILER ${mingw_triplet}-windres)
+# What is built asks for libraries of the system alone.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
+set(CMAKE_FIND_ROOT_PATH /usr/${mingw_triplet})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+find_program(QUORVEL_WINE wine)
+if(QUORVEL_WINE)
+  set(CMAKE_CROSSCOMPILING_EMULATOR ${QUORVEL_WINE})
+endif()
+set(ZLIB_USE_STATIC_LIBS ON)
