@@ -9,6 +9,10 @@
 
 #include "platform/Dates.h"
 
+#ifdef DeleteFile
+#undef DeleteFile  // Windows gives its own function of that name another one, and with it every member
+#endif
+
 namespace quorvel {
 
 // Values of a mouse pointer as hosts know them.
