@@ -3,29 +3,13 @@
 
 #include <QTableView>
 #include <cstddef>
-#include <cstdint>
-#include <functional>
-#include <optional>
 
-#include "control/Enumerations.h"
+#include "control/Gestures.h"
 #include "qt/ListModel.h"
 #include "qt/TypeAhead.h"
 #include "widgets/ListView.h"
 
 namespace quorvel::qt {
-
-// What the user asks for; the owner of the list does it. An empty one means that nobody cares.
-struct ListGestures {
-  std::function<void(std::size_t)> columnClick = {};  // on a header, counted from 1
-  std::function<void()> doubleClick = {};             // on the row that is selected now
-  std::function<void(std::int32_t)> keyDown = {};     // Enter, as key code 13; other keys are the list's own
-  std::function<void()> selectionChanged = {};        // once a gesture, when it has changed the selection
-  // After the left button has selected, before the right one selects anything. Without a row: on empty space. The keys
-  // for a menu are the right button on the selected row.
-  std::function<void(MouseButton, std::optional<std::size_t>)> mouseDown = {};
-  std::function<void()> copy = {};       // the keys for it
-  std::function<void()> selectAll = {};  // the same
-};
 
 // Which rows are selected is the list's to say; what the user selects is written to it as ranges.
 class ListPane final : public QTableView, public widgets::ListObserver {

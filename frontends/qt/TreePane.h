@@ -2,24 +2,13 @@
 #pragma once
 
 #include <QTreeView>
-#include <functional>
 
-#include "control/Enumerations.h"
+#include "control/Gestures.h"
 #include "qt/TreeModel.h"
 #include "qt/TypeAhead.h"
 #include "widgets/TreeView.h"
 
 namespace quorvel::qt {
-
-// What the user asks for. The owner of the tree opens, closes or selects the node, or does not; the view follows.
-struct TreeGestures {
-  std::function<void(widgets::NodeId)> expand;
-  std::function<void(widgets::NodeId)> collapse;
-  std::function<void(widgets::NodeId)> click;  // once a gesture, by mouse or keyboard; also on the node selected before
-  // The right button came up over a node, which it has not selected yet, or over none. The keys for a menu are the
-  // right button over none.
-  std::function<void(MouseButton, widgets::NodeId)> mouseUp = {};
-};
 
 // Which nodes are open and which is selected is the tree's to say; what is seen follows it.
 class TreePane final : public QTreeView, public widgets::TreeObserver {

@@ -1,0 +1,547 @@
+#include "windows/TreePane.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+#include <utility>
+
+#include "windows/Guard.h"
+#include "windows/ItemLook.h"
+#include "windows/TemporaryValue.h"
+
+namespace quorvel::windows {
+
+using widgets::NodeId;
+
+namespace {
+
+// Posted to the native tree itself, for what a program has done to it, such as a screen reader: nodes must not come and
+// go under the hands of the control that is just telling of one.
+constexpr UINT kClickNode = WM_APP + 1;
+constexpr UINT kOpenNode = WM_APP + 2;
+
+constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP | TVS_HASBUTTONS | TVS_LINESATROOT |
+                         TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_NONEVENHEIGHT;
+
+bool IsDown(int key) {
+  return GetKeyState(key) < 0;
+}
+
+// Keys that go to another node, which the native tree knows best.
+bool IsMove(WPARAM key) {
+  constexpr WPARAM kMoves[] = {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END, VK_BACK};
+  return std::ranges::find(kMoves, key) != std::end(kMoves);
+}
+
+POINT PlaceOf(LPARAM lParam) {
+  return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+}  // namespace
+
+TreePane::TreePane(widgets::TreeView& tree, TreeGestures gestures, HWND parent, Icons& icons)
+    : tree_(tree), gestures_(std::move(gestures)), icons_(icons) {
+  window_.reset(
+      CreateWindowExW(WS_EX_CLIENTEDGE, WC_TREEVIEWW, L"", kStyle, 0, 0, 0, 0, parent, nullptr, Module(), nullptr));
+  if (!window_) throw Error(SystemError::kOutOfMemory, "No window for the tree");
+  TreeView_SetUnicodeFormat(window(), TRUE);
+  TreeView_SetExtendedStyle(window(), TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
+  SendMessageW(window(), WM_SETFONT, reinterpret_cast<WPARAM>(FontOf(parent)), FALSE);
+  DpiChanged();
+  ear_.emplace(window(), [this](UINT message, WPARAM wParam, LPARAM lParam) { return Hear(message, wParam, lParam); });
+  tree_.ObserveTree(this);
+  TreePane::TreeReset();
+}
+
+TreePane::~TreePane() {
+  tree_.ObserveTree(nullptr);
+}
+
+void TreePane::DpiChanged() {
+  constexpr int kIndent = 18;
+  const Scale scale = ScaleOf(window());
+  TreeView_SetImageList(window(), icons_.list(), TVSIL_NORMAL);
+  TreeView_SetIndent(window(), scale.Of96(kIndent));
+  TreeView_SetItemHeight(window(), ItemHeight(FontOf(window()), icons_.pixels(), scale));
+  InvalidateRect(window(), nullptr, TRUE);
+}
+
+HTREEITEM TreePane::ItemOf(NodeId node) const {
+  const auto number = static_cast<std::size_t>(node);
+  return number < items_.size() ? items_[number] : nullptr;
+}
+
+NodeId TreePane::NodeOf(HTREEITEM item) const {
+  if (item == nullptr) return NodeId::kNone;
+  TVITEMW asked{};
+  asked.mask = TVIF_PARAM;
+  asked.hItem = item;
+  if (SendMessageW(window(), TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&asked)) == FALSE) return NodeId::kNone;
+  return static_cast<NodeId>(asked.lParam);
+}
+
+// --- What the tree says
+
+void TreePane::TreeReset() {
+  Guarded([&] {
+    {
+      const TemporaryValue following(following_, true);
+      const DrawnAfterwards quietly(window());
+      Forget(TVI_ROOT);
+      InsertChildren(NodeId::kNone, 0, tree_.ChildCount(NodeId::kNone));
+      FollowOpen(tree_.Children(NodeId::kNone));
+    }
+    FollowSelection();
+  });
+}
+
+void TreePane::NodesInserted(NodeId parent, std::size_t first, std::size_t count) {
+  Guarded([&] {
+    // The children of what was never open are not wanted yet.
+    const HTREEITEM item = ItemOf(parent);
+    if (parent != NodeId::kNone && item == nullptr) return;
+    {
+      const TemporaryValue following(following_, true);
+      const DrawnAfterwards quietly(window());
+      if (parent == NodeId::kNone || TreeView_GetChild(window(), item) != nullptr) InsertChildren(parent, first, count);
+      if (parent != NodeId::kNone) {
+        ChangeItem(parent);
+        FollowExpansion(parent);
+      }
+      FollowOpen(tree_.Children(parent).subspan(first, count));
+    }
+    FollowSelection();
+  });
+}
+
+void TreePane::ChildrenRemoved(NodeId parent, std::span<const NodeId> /*children*/) {
+  Guarded([&] {
+    const HTREEITEM item = parent == NodeId::kNone ? TVI_ROOT : ItemOf(parent);
+    if (item == nullptr) return;
+    {
+      const TemporaryValue following(following_, true);
+      const DrawnAfterwards quietly(window());
+      Forget(item);
+      if (parent != NodeId::kNone) ChangeItem(parent);
+    }
+    FollowSelection();
+  });
+}
+
+void TreePane::NodesChanged(std::span<const NodeId> nodes) {
+  constexpr std::size_t kFew = 4;
+  Guarded([&] {
+    std::optional<DrawnAfterwards> quietly;
+    if (nodes.size() > kFew) quietly.emplace(window());
+    for (const NodeId node : nodes) ChangeItem(node);
+  });
+}
+
+void TreePane::NodeExpansionChanged(NodeId node) {
+  Guarded([&] {
+    {
+      const DrawnAfterwards quietly(window());
+      FollowExpansion(node);
+    }
+    FollowSelection();
+  });
+}
+
+void TreePane::TreeSelectionChanged() {
+  Guarded([&] { FollowSelection(); });
+}
+
+void TreePane::TreeScrolled(NodeId top) {
+  Guarded([&] {
+    if (top != NodeId::kNone && !IsShown(top)) return;
+    const HTREEITEM item = top == NodeId::kNone ? TreeView_GetRoot(window()) : ItemOf(top);
+    if (item != nullptr) TreeView_SelectSetFirstVisible(window(), item);
+  });
+}
+
+NodeId TreePane::TopNode() const {
+  const HTREEITEM top = TreeView_GetFirstVisible(window());
+  return top == TreeView_GetRoot(window()) ? NodeId::kNone : NodeOf(top);
+}
+
+bool TreePane::SeesNode(NodeId node) const {
+  const HTREEITEM item = ItemOf(node);
+  RECT line{};
+  if (item == nullptr || !IsShown(node) || TreeView_GetItemRect(window(), item, &line, FALSE) == FALSE) return false;
+  RECT seen{};
+  GetClientRect(window(), &seen);
+  return line.top >= 0 && line.bottom <= seen.bottom;
+}
+
+void TreePane::InsertChildren(NodeId parent, std::size_t first, std::size_t count) {
+  const HTREEITEM above = parent == NodeId::kNone ? TVI_ROOT : ItemOf(parent);
+  const auto children = tree_.Children(parent);
+  // Behind the one before: the native tree would look for the last one each time.
+  HTREEITEM before = first == 0 ? TVI_FIRST : ItemOf(children[first - 1]);
+  for (const NodeId child : children.subspan(first, count)) before = InsertItem(above, before, child);
+}
+
+HTREEITEM TreePane::InsertItem(HTREEITEM parent, HTREEITEM before, NodeId node) {
+  TVINSERTSTRUCTW made{};
+  made.hParent = parent;
+  made.hInsertAfter = before;
+  made.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN | TVIF_PARAM | TVIF_STATE;
+  made.item.pszText = LPSTR_TEXTCALLBACKW;
+  made.item.iImage = I_IMAGECALLBACK;
+  made.item.iSelectedImage = I_IMAGECALLBACK;
+  made.item.cChildren = tree_.IsExpandable(node) ? 1 : 0;
+  made.item.lParam = static_cast<LPARAM>(node);
+  made.item.stateMask = TVIS_BOLD;
+  made.item.state = tree_.IsBold(node) ? TVIS_BOLD : 0;
+  const auto number = static_cast<std::size_t>(node);
+  if (number >= items_.size()) items_.resize(number + 1);
+  items_[number] =
+      reinterpret_cast<HTREEITEM>(SendMessageW(window(), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&made)));
+  if (items_[number] == nullptr) throw Error(SystemError::kOutOfMemory, "No memory for a node");
+  return items_[number];
+}
+
+void TreePane::ChangeItem(NodeId node) {
+  if (ItemOf(node) == nullptr) return;
+  TVITEMW changed{};
+  changed.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_CHILDREN | TVIF_STATE;
+  changed.hItem = ItemOf(node);
+  changed.pszText = LPSTR_TEXTCALLBACKW;
+  changed.cChildren = tree_.IsExpandable(node) ? 1 : 0;
+  changed.stateMask = TVIS_BOLD;
+  changed.state = tree_.IsBold(node) ? TVIS_BOLD : 0;
+  SendMessageW(window(), TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changed));
+}
+
+// What stands under the item goes at once: one by one each would move all that stand behind it.
+void TreePane::Forget(HTREEITEM parent) {
+  const TemporaryValue forgetting(forgetting_, true);
+  // The selection would go from each to the next one.
+  if (const HTREEITEM selected = TreeView_GetSelection(window()); selected != nullptr && selected != parent) {
+    TreeView_SelectItem(window(), nullptr);
+  }
+  if (parent == TVI_ROOT) {
+    TreeView_DeleteAllItems(window());
+    items_.clear();
+  } else {
+    TreeView_Expand(window(), parent, TVE_COLLAPSE | TVE_COLLAPSERESET);
+  }
+}
+
+// The native tree opens nothing that has no children; it will when they come.
+void TreePane::FollowExpansion(NodeId node) {
+  const TemporaryValue following(following_, true);
+  const HTREEITEM item = ItemOf(node);
+  if (item == nullptr) return;
+  if (!tree_.IsExpanded(node)) {
+    // The native tree would select the node in place of one that it hides.
+    if (IsBelow(tree_.Selected(), node)) TreeView_SelectItem(window(), nullptr);
+    TreeView_Expand(window(), item, TVE_COLLAPSE);
+    return;
+  }
+  if (TreeView_GetChild(window(), item) == nullptr) {
+    InsertChildren(node, 0, tree_.ChildCount(node));
+    FollowOpen(tree_.Children(node));
+  }
+  TreeView_Expand(window(), item, TVE_EXPAND);
+}
+
+void TreePane::FollowOpen(std::span<const NodeId> nodes) {
+  for (const NodeId node : nodes) {
+    if (tree_.IsExpanded(node)) FollowExpansion(node);
+  }
+}
+
+// A node that a closed one hides is shown nowhere: to select it natively would open what stands above it, and whether
+// that is open is not for the view to say.
+void TreePane::FollowSelection() {
+  const TemporaryValue following(following_, true);
+  const NodeId node = tree_.Selected();
+  const HTREEITEM item = node != NodeId::kNone && IsShown(node) ? ItemOf(node) : nullptr;
+  if (item != TreeView_GetSelection(window())) TreeView_SelectItem(window(), item);
+}
+
+bool TreePane::IsShown(NodeId node) const {
+  for (node = tree_.Parent(node); node != NodeId::kNone; node = tree_.Parent(node)) {
+    if (!tree_.IsExpanded(node)) return false;
+  }
+  return true;
+}
+
+bool TreePane::IsBelow(NodeId node, NodeId above) const {
+  while (node != NodeId::kNone && node != above) node = tree_.Parent(node);
+  return node == above;
+}
+
+// --- What the native tree asks and tells
+
+LRESULT TreePane::Notify(NMHDR& header) {
+  return GuardedOr(LRESULT{0}, [&]() -> LRESULT {
+    switch (header.code) {
+      case TVN_GETDISPINFOW:
+        Describe(reinterpret_cast<NMTVDISPINFOW&>(header).item);
+        return 0;
+      case NM_CUSTOMDRAW:
+        return Draw(reinterpret_cast<NMTVCUSTOMDRAW&>(header));
+      case TVN_ITEMEXPANDINGW:
+        return RefuseExpansion(reinterpret_cast<const NMTREEVIEWW&>(header)) ? TRUE : FALSE;
+      case TVN_SELCHANGEDW:
+        SelectedFromOutside(reinterpret_cast<const NMTREEVIEWW&>(header));
+        return 0;
+      case TVN_DELETEITEMW: {
+        const auto node = static_cast<std::size_t>(reinterpret_cast<const NMTREEVIEWW&>(header).itemOld.lParam);
+        if (node < items_.size()) items_[node] = nullptr;
+        return 0;
+      }
+      default:
+        return 0;
+    }
+  });
+}
+
+void TreePane::Describe(TVITEMW& item) {
+  const auto node = static_cast<NodeId>(item.lParam);
+  // Nodes that go may be gone already.
+  if (forgetting_ || ItemOf(node) == nullptr) {
+    if ((item.mask & TVIF_TEXT) != 0) CopyText({}, item.pszText, item.cchTextMax);
+    return;
+  }
+  if ((item.mask & TVIF_TEXT) != 0) {
+    const std::wstring text = ToWide(tree_.Text(node));
+    CopyText(painting_ ? LineOf(text) : text, item.pszText, item.cchTextMax);
+  }
+  const std::string& usual = tree_.Image(node);
+  if ((item.mask & TVIF_IMAGE) != 0) {
+    item.iImage = ImageOf(tree_.IsExpanded(node) ? tree_.ExpandedImage(node) : usual, usual);
+  }
+  if ((item.mask & TVIF_SELECTEDIMAGE) != 0) item.iSelectedImage = ImageOf(tree_.SelectedImage(node), usual);
+}
+
+int TreePane::ImageOf(std::string_view key, std::string_view otherwise) {
+  const int image = icons_.IndexOf(key);
+  return image == I_IMAGENONE ? icons_.IndexOf(otherwise) : image;
+}
+
+LRESULT TreePane::Draw(NMTVCUSTOMDRAW& draw) {
+  switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+      painting_ = true;
+      return CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT;
+    case CDDS_ITEMPREPAINT: {
+      const auto node = static_cast<NodeId>(draw.nmcd.lItemlParam);
+      if (forgetting_ || ItemOf(node) == nullptr) return CDRF_DODEFAULT;
+      const bool selected = (draw.nmcd.uItemState & CDIS_SELECTED) != 0;
+      const ItemColours colours = ColoursOf(tree_.ForeColour(node), selected, GetFocus() == window());
+      draw.clrText = colours.text;
+      draw.clrTextBk = colours.background;
+      return CDRF_DODEFAULT;
+    }
+    case CDDS_POSTPAINT:
+      painting_ = false;
+      return CDRF_DODEFAULT;
+    default:
+      return CDRF_DODEFAULT;
+  }
+}
+
+bool TreePane::RefuseExpansion(const NMTREEVIEWW& change) {
+  if (following_) return false;
+  const bool open = change.action == TVE_EXPAND;
+  PostMessageW(window(), kOpenNode, static_cast<WPARAM>(change.itemNew.lParam), open ? TRUE : FALSE);
+  return true;
+}
+
+void TreePane::SelectedFromOutside(const NMTREEVIEWW& change) {
+  if (following_ || inGesture_ || change.itemNew.hItem == nullptr) return;
+  PostMessageW(window(), kClickNode, static_cast<WPARAM>(change.itemNew.lParam), 0);
+}
+
+// --- What the user did
+
+std::optional<LRESULT> TreePane::Hear(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_LBUTTONDOWN:
+      PressLeft(PlaceOf(lParam), false);
+      return 0;
+    case WM_LBUTTONDBLCLK:
+      PressLeft(PlaceOf(lParam), true);
+      return 0;
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+      // The owner selects what the button comes up over.
+      SetFocus(window());
+      return 0;
+    case WM_RBUTTONUP:
+      ReleaseRight(PlaceOf(lParam));
+      return 0;
+    case WM_CONTEXTMENU:
+      if (lParam == -1) OpenMenuByKey();
+      return 0;
+    case WM_KEYDOWN:
+      if (PressKey(wParam, lParam)) return 0;
+      return std::nullopt;
+    case WM_SYSKEYDOWN:
+      // Not every version of the native tree leaves this key to the system, which would ask for the menu.
+      if (wParam != VK_F10 || !IsDown(VK_SHIFT)) return std::nullopt;
+      OpenMenuByKey();
+      return 0;
+    case WM_KEYUP:
+      if (wParam != VK_APPS) return std::nullopt;
+      OpenMenuByKey();
+      return 0;
+    case WM_CHAR:
+      TypeLetter(static_cast<wchar_t>(wParam));
+      return 0;
+    case WM_SETFOCUS:
+      return TakeFocus(wParam);
+    case WM_SETFONT: {
+      const LRESULT answer = DefSubclassProc(window(), message, wParam, lParam);
+      DpiChanged();
+      return answer;
+    }
+    case kClickNode:
+      if (const auto node = static_cast<NodeId>(wParam); ItemOf(node) != nullptr) Click(node);
+      return 0;
+    case kOpenNode:
+      if (const auto node = static_cast<NodeId>(wParam); ItemOf(node) != nullptr) Open(node, lParam != FALSE);
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+// The native tree selects the first node when it gets the focus without having one selected, which nobody asked for.
+LRESULT TreePane::TakeFocus(WPARAM from) {
+  const TemporaryValue following(following_, true);
+  const LRESULT answer = DefSubclassProc(window(), WM_SETFOCUS, from, 0);
+  FollowSelection();
+  return answer;
+}
+
+NodeId TreePane::NodeAt(POINT place, UINT* part) const {
+  TVHITTESTINFO hit{};
+  hit.pt = place;
+  const HTREEITEM item = TreeView_HitTest(window(), &hit);
+  if (part != nullptr) *part = hit.flags;
+  return NodeOf(item);
+}
+
+// Handled here alone: the native tree waits for the button to come up, in a loop of its own.
+void TreePane::PressLeft(POINT place, bool twice) {
+  SetFocus(window());
+  UINT part = 0;
+  const NodeId node = NodeAt(place, &part);
+  if (node == NodeId::kNone) return;
+  const bool button = (part & TVHT_ONITEMBUTTON) != 0;
+  if (button || twice) return Open(node, !tree_.IsExpanded(node));
+  Click(node);
+}
+
+void TreePane::ReleaseRight(POINT place) {
+  const NodeId node = NodeAt(place);
+  menuPlace_ = place;
+  ClientToScreen(window(), &menuPlace_);
+  if (gestures_.mouseUp) gestures_.mouseUp(MouseButton::kRight, node);
+}
+
+// On the node that is selected, which was clicked when it became so.
+void TreePane::OpenMenuByKey() {
+  menuPlace_ = {};
+  if (const HTREEITEM selected = TreeView_GetSelection(window()); selected != nullptr) {
+    TreeView_EnsureVisible(window(), selected);
+    RECT text{};
+    RECT seen{};
+    GetClientRect(window(), &seen);
+    if (TreeView_GetItemRect(window(), selected, &text, TRUE) != FALSE) {
+      menuPlace_ = {std::clamp(text.left, seen.left, seen.right), std::clamp(text.bottom, seen.top, seen.bottom)};
+    }
+  }
+  ClientToScreen(window(), &menuPlace_);
+  if (gestures_.mouseUp) gestures_.mouseUp(MouseButton::kRight, NodeId::kNone);
+}
+
+bool TreePane::PressKey(WPARAM key, LPARAM lParam) {
+  if (IsDown(VK_CONTROL) || IsDown(VK_MENU)) return false;
+  const NodeId node = tree_.Selected();
+  switch (key) {
+    case VK_LEFT:
+      if (node != NodeId::kNone) CloseOrGoUp(node);
+      return true;
+    case VK_RIGHT:
+      if (node != NodeId::kNone) OpenOrGoDown(node);
+      return true;
+    case VK_ADD:
+    case VK_SUBTRACT:
+    case VK_MULTIPLY:
+      return true;  // they come as letters too
+    default:
+      if (!IsMove(key)) return false;
+      MoveByKey(key, lParam);
+      return true;
+  }
+}
+
+void TreePane::CloseOrGoUp(NodeId node) {
+  if (tree_.IsExpanded(node)) return Open(node, false);
+  if (tree_.Parent(node) != NodeId::kNone) Click(tree_.Parent(node));
+}
+
+void TreePane::OpenOrGoDown(NodeId node) {
+  if (!tree_.IsExpanded(node)) return Open(node, true);
+  if (tree_.ChildCount(node) > 0) Click(tree_.Child(node, 0));
+}
+
+void TreePane::MoveByKey(WPARAM key, LPARAM lParam) {
+  const HTREEITEM before = TreeView_GetSelection(window());
+  if (before == nullptr) {
+    if (tree_.ChildCount(NodeId::kNone) > 0) Click(tree_.Child(NodeId::kNone, 0));
+    return;
+  }
+  {
+    const TemporaryValue gesture(inGesture_, true);
+    DefSubclassProc(window(), WM_KEYDOWN, key, lParam);
+  }
+  const HTREEITEM now = TreeView_GetSelection(window());
+  if (now != before) Click(NodeOf(now));
+}
+
+void TreePane::TypeLetter(wchar_t unit) {
+  const NodeId selected = tree_.Selected();
+  if (selected != NodeId::kNone) {
+    // Opens what there is: to load a whole history level by level is nothing that one key should start.
+    if (unit == L'*') return OpenLoaded(selected);
+    if (unit == L'+' || unit == L'-') return Open(selected, unit == L'+');
+  }
+  if (!typed_.Type(unit)) return;
+  const NodeId node = typed_.typed().FindNode(tree_, selected);
+  if (node != NodeId::kNone && node != selected) Click(node);
+}
+
+void TreePane::Click(NodeId node) {
+  if (node == NodeId::kNone) return;
+  gestures_.click(node);
+  FollowSelection();
+}
+
+// The owner may refuse, or rebuild the tree.
+void TreePane::Open(NodeId node, bool open) {
+  if (open == tree_.IsExpanded(node) || (open && !tree_.IsExpandable(node))) return;
+  (open ? gestures_.expand : gestures_.collapse)(node);
+}
+
+void TreePane::OpenLoaded(NodeId top) {
+  std::vector<NodeId> toOpen{top};
+  while (!toOpen.empty()) {
+    const NodeId node = toOpen.back();
+    toOpen.pop_back();
+    if (ItemOf(node) != nullptr) Open(node, true);
+    if (ItemOf(node) == nullptr || !tree_.IsExpanded(node)) continue;
+    for (const NodeId child : tree_.Children(node)) {
+      if (tree_.ChildCount(child) > 0) toOpen.push_back(child);
+    }
+  }
+}
+
+}  // namespace quorvel::windows
