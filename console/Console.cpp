@@ -4,16 +4,20 @@
 #include <QPainter>
 #include <QPixmap>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "console/Appearance.h"
-#include "console/ConsoleOptions.h"
 #include "console/ConsoleWindow.h"
 #include "console/HistorySession.h"
 #include "console/ScenarioRun.h"
+#include "console_core/ConsoleOptions.h"
 #include "qt/Convert.h"
 
 namespace quorvel::console {
 namespace {
+
+using qt::ToQt;
 
 // Nobody sits in front of the window.
 bool IsUnattended() {
@@ -66,17 +70,19 @@ QPixmap PictureOf(QWidget& window, const QRect& place) {
 
 int ShowWindow(const ConsoleOptions& options) {
   const bool unattended = IsUnattended();
-  const Audience audience = unattended                     ? Audience::kTerminal
-                            : options.screenshot.isEmpty() ? Audience::kWindow
-                                                           : Audience::kBoth;
+  const Audience audience = unattended                   ? Audience::kTerminal
+                            : options.screenshot.empty() ? Audience::kWindow
+                                                         : Audience::kBoth;
   ConsoleWindow window;
   HistorySession session(window, options.fromType, options.processId, audience);
-  window.resize(options.size);
+  window.resize(options.size.width, options.size.height);
   window.show();
-  bool ok = options.history.isEmpty() || session.OpenHistory(options.history);
-  if (!options.report.isEmpty()) return ExitCode(ok && session.WriteReportOf(options.report, options.output));
-  if (ok && !options.tab.isEmpty()) ok = session.ChooseTab(options.tab);
-  if (!options.screenshot.isEmpty()) ok = WritePicture(window, options.screenshot, options.part) && ok;
+  bool ok = options.history.empty() || session.OpenHistory(ToQt(options.history));
+  if (!options.report.empty()) {
+    return ExitCode(ok && session.WriteReportOf(ToQt(options.report), ToQt(options.output)));
+  }
+  if (ok && !options.tab.empty()) ok = session.ChooseTab(ToQt(options.tab));
+  if (!options.screenshot.empty()) ok = WritePicture(window, ToQt(options.screenshot), ToQt(options.part)) && ok;
   // A person goes on from here; without one the picture was all there was to do.
   return unattended ? ExitCode(ok) : QApplication::exec();
 }
@@ -96,17 +102,16 @@ bool WritePicture(QWidget& window, const QString& file, const QString& part) {
 }
 
 int RunConsole(int argc, char** argv) {
-  QStringList arguments;
-  for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+  const std::vector<std::string> arguments(argv, argv + argc);
   const CommandLine commandLine = ReadCommandLine(arguments);
   if (!commandLine.options) {
-    (commandLine.exitCode == 0 ? std::cout : std::cerr) << qt::FromQt(commandLine.text) << std::flush;
+    (commandLine.exitCode == 0 ? std::cout : std::cerr) << commandLine.text << std::flush;
     return commandLine.exitCode;
   }
   const ConsoleOptions& options = *commandLine.options;
   if (options.headless) return RunScenarioHeadless(options);
   if (!HasDisplay()) {
-    if (options.screenshot.isEmpty() && options.scenario.isEmpty() && options.report.isEmpty()) {
+    if (options.screenshot.empty() && options.scenario.empty() && options.report.empty()) {
       std::cerr << "There is no display. --screenshot FILE.png draws the window off-screen." << std::endl;
       return ExitCode(false);
     }
@@ -118,7 +123,7 @@ int RunConsole(int argc, char** argv) {
   QCoreApplication::setApplicationName("Quorvel");
   QCoreApplication::setApplicationVersion(QUORVEL_VERSION);
   SetAppearance(options.dark);
-  return options.scenario.isEmpty() ? ShowWindow(options) : RunScenarioOnQt(options);
+  return options.scenario.empty() ? ShowWindow(options) : RunScenarioOnQt(options);
 }
 
 }  // namespace quorvel::console

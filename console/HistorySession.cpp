@@ -3,9 +3,10 @@
 #include <QTabBar>
 #include <iostream>
 
-#include "console/ReportData.h"
-#include "console/ReportHtml.h"
 #include "console/ReportPages.h"
+#include "console_core/FirstView.h"
+#include "console_core/ReportData.h"
+#include "console_core/ReportHtml.h"
 #include "platform/Error.h"
 #include "qt/Convert.h"
 
@@ -56,7 +57,7 @@ void HistorySession::Show(const QString& url) {
   const std::int32_t opened = hub_.OpenConnection(qt::FromQt(url));
   control.p_Connect(opened);
   try {
-    control.m_GetLogByProcess();
+    BuildFirstView(control);
   } catch (...) {
     control.p_Connect(before);
     hub_.CloseConnection(opened);

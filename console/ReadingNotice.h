@@ -5,14 +5,10 @@
 #include <QLabel>
 #include <QObject>
 #include <QTimer>
-#include <string_view>
 
 #include "hub/Progress.h"
 
 namespace quorvel::console {
-
-// "Reading runs...": what a query of the contract reads, in words; empty for one that reads no rows.
-QString WordsFor(std::string_view query);
 
 // A request is what happens between two looks of Qt at its events: as long as one lasts, the window answers nobody.
 class ReadingNotice final : public QObject {

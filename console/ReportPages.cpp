@@ -91,23 +91,24 @@ QByteArray PdfOf(const ReportText& report) {
 }  // namespace
 
 void PaintReport(const ReportText& report, QPagedPaintDevice& device, PageRange range) {
-  const Pages pages(report.html, device);
+  const Pages pages(qt::ToQt(report.html), device);
   const int first = std::max(range.first, 1);
   const int last = range.last > 0 ? std::min(range.last, pages.Count()) : pages.Count();
+  const QString footer = qt::ToQt(report.footer);
   QPainter painter;
   bool going = painter.begin(&device);
   for (int page = first; going && page <= last; ++page) {
     if (page > first) going = device.newPage();
     if (!going) break;
     pages.Draw(painter, page);
-    pages.DrawFooter(painter, report.footer, page);
+    pages.DrawFooter(painter, footer, page);
   }
   if (!going || !painter.end()) throw Error(SystemError::kDeviceInput, "The report cannot be printed there");
 }
 
 void SaveReport(const ReportText& report, const QString& file) {
   const bool pdf = file.endsWith(".pdf", Qt::CaseInsensitive);
-  const QByteArray bytes = pdf ? PdfOf(report) : report.html.toUtf8();
+  const QByteArray bytes = pdf ? PdfOf(report) : QByteArray::fromStdString(report.html);
   // What stood there before stays until the new report is whole.
   QSaveFile out(file);
   if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {

@@ -4,7 +4,7 @@
 #include <QPagedPaintDevice>
 #include <QString>
 
-#include "console/ReportHtml.h"
+#include "console_core/ReportHtml.h"
 
 namespace quorvel::console {
 

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "console/ReportPages.h"
+#include "qt/Convert.h"
 #include "qt/Guard.h"
 
 namespace quorvel::console {
@@ -40,7 +41,7 @@ void ReportWindow::MakePaper() {
   paper_->setAccessibleName("Execution report");
   paper_->setOpenLinks(false);
   paper_->document()->setDocumentMargin(kPaperMargin);
-  paper_->setHtml(report_.html);
+  paper_->setHtml(qt::ToQt(report_.html));
   paper_->setFocus();
 }
 

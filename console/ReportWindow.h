@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <QString>
 
-#include "console/ReportHtml.h"
+#include "console_core/ReportHtml.h"
 #include "datasource/ErrorsProcess.h"
 
 class QTextBrowser;

@@ -4,14 +4,15 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "console/Console.h"
 #include "console/ConsoleWindow.h"
-#include "console/ReportData.h"
-#include "console/ReportHtml.h"
 #include "console/ReportPages.h"
 #include "console/Subscription.h"
+#include "console_core/ReportData.h"
+#include "console_core/ReportHtml.h"
 #include "qt/Convert.h"
 #include "scenario/Scenario.h"
 #include "scenario/ScenarioHeadless.h"
@@ -22,8 +23,8 @@ namespace {
 
 bool RunScript(scenario::Scenario& scenario, const ConsoleOptions& options) {
   try {
-    if (!options.history.isEmpty()) scenario.Open(qt::FromQt(options.history));
-    return scenario.Run(qt::FromQt(options.scenario), std::cout, std::cerr);
+    if (!options.history.empty()) scenario.Open(options.history);
+    return scenario.Run(options.scenario, std::cout, std::cerr);
   } catch (const std::exception& problem) {
     std::cerr << problem.what() << std::endl;
     return false;
@@ -34,8 +35,8 @@ bool RunScript(scenario::Scenario& scenario, const ConsoleOptions& options) {
 class ReportFile final : public HostEvents {
  public:
   ReportFile(qt::ProcessLogWidget& viewer, const Platform& platform, datasource::RecordSourceFactory& factory,
-             const QString& file)
-      : viewer_(viewer), platform_(platform), factory_(factory), file_(file), subscription_(viewer, *this) {}
+             QString file)
+      : viewer_(viewer), platform_(platform), factory_(factory), file_(std::move(file)), subscription_(viewer, *this) {}
 
   void PrintReport(const std::string& f_strCurrentProcessIdList) override {
     try {
@@ -53,7 +54,7 @@ class ReportFile final : public HostEvents {
   qt::ProcessLogWidget& viewer_;
   const Platform& platform_;
   datasource::RecordSourceFactory& factory_;
-  const QString& file_;
+  QString file_;
   bool failed_ = false;
   Subscription subscription_;
 };
@@ -77,18 +78,18 @@ int RunScenarioOnQt(const ConsoleOptions& options) {
     auto& window = *windows.emplace_back(std::make_unique<ConsoleWindow>());
     auto* const viewer = new qt::ProcessLogWidget(factory, platform, &window);
     window.Place(viewer);
-    if (!options.output.isEmpty()) {
-      reports.push_back(std::make_unique<ReportFile>(*viewer, platform, factory, options.output));
+    if (!options.output.empty()) {
+      reports.push_back(std::make_unique<ReportFile>(*viewer, platform, factory, qt::ToQt(options.output)));
     }
-    window.resize(options.size);
+    window.resize(options.size.width, options.size.height);
     window.show();
     return viewer;
   });
   scenario::Scenario scenario(port);
   bool ok = RunScript(scenario, options);
   for (const auto& each : reports) ok = ok && !each->failed();
-  if (!options.screenshot.isEmpty() && !windows.empty()) {
-    ok = WritePicture(*windows.back(), options.screenshot, options.part) && ok;
+  if (!options.screenshot.empty() && !windows.empty()) {
+    ok = WritePicture(*windows.back(), qt::ToQt(options.screenshot), qt::ToQt(options.part)) && ok;
   }
   return ExitCode(ok);
 }

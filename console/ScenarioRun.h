@@ -1,7 +1,7 @@
 // Hands the console's window, or none, over to a scenario.
 #pragma once
 
-#include "console/ConsoleOptions.h"
+#include "console_core/ConsoleOptions.h"
 
 namespace quorvel::console {
 

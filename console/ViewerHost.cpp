@@ -1,9 +1,9 @@
 #include "console/ViewerHost.h"
 
-#include "console/ReportData.h"
-#include "console/ReportHtml.h"
 #include "console/ReportWindow.h"
-#include "console/RunContext.h"
+#include "console_core/ReportData.h"
+#include "console_core/ReportHtml.h"
+#include "console_core/RunContext.h"
 #include "control/Hourglass.h"
 #include "qt/TreePane.h"
 

@@ -9,9 +9,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "console/ReportData.h"
-#include "console/ReportHtml.h"
 #include "console/ReportPages.h"
+#include "console_core/ReportData.h"
+#include "console_core/ReportHtml.h"
 #include "hub/RecordHub.h"
 #include "scenario/RecordingSources.h"
 #include "support/RecordingPlatform.h"
@@ -46,10 +46,10 @@ INSERT INTO command_log VALUES
 class ConsoleReportTest : public testing::Test {
  protected:
   ReportData Collect(std::string_view keys) { return CollectReport(recording, connection, platform, keys); }
-  QString Html(std::string_view keys) { return WriteReport(Collect(keys), platform).html; }
+  std::string Html(std::string_view keys) { return WriteReport(Collect(keys), platform).html; }
   std::string Shown(std::string_view keys) {
     QTextDocument document;
-    document.setHtml(Html(keys));
+    document.setHtml(QString::fromStdString(Html(keys)));
     return document.toPlainText().toStdString();
   }
   // What of these queries was asked since the last time.
@@ -130,7 +130,7 @@ TEST_F(ConsoleReportTest, HoldsNoMoreThanItSays) {
 
 TEST_F(ConsoleReportTest, ShowsNamesAsTheyAre) {
   history.Sql(kFailures);
-  const std::string html = Html("LPROC|11|0|100").toStdString();
+  const std::string html = Html("LPROC|11|0|100");
   EXPECT_THAT(html, HasSubstr("&lt;b&gt;Deploy&lt;/b&gt; &amp; &quot;co&quot;|2"));
   EXPECT_THAT(html, HasSubstr("line 1\nline &lt;2&gt;\uFFFD"));
   EXPECT_THAT(html, Not(HasSubstr("</script>")));
@@ -156,7 +156,7 @@ TEST_F(ConsoleReportTest, IsWrittenWholeOrNotAtAll) {
   EXPECT_THAT(FileText(pdf), HasSubstr("/Count 3")) << "a page for each run";
   const std::filesystem::path html = platform.folder / "report.html";
   SaveReport(report, QString::fromStdString(html));
-  EXPECT_EQ(FileText(html), report.html.toStdString());
+  EXPECT_EQ(FileText(html), report.html);
   try {
     SaveReport(report, "/no/such/folder/report.pdf");
     FAIL() << "written nowhere";

@@ -10,9 +10,10 @@
 #include <fstream>
 
 #include "console/Console.h"
-#include "console/ConsoleOptions.h"
 #include "console/HistorySession.h"
 #include "console/ReadingNotice.h"
+#include "console_core/ConsoleOptions.h"
+#include "console_core/ReadingWords.h"
 #include "datasource/Contract.h"
 #include "qt/TreePane.h"
 #include "support/SmallHistory.h"
@@ -24,8 +25,8 @@ using testing::HasSubstr;
 using testing::internal::CaptureStderr;
 using testing::internal::GetCapturedStderr;
 
-CommandLine Read(QStringList arguments) {
-  arguments.prepend("console");
+CommandLine Read(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), "console");
   return ReadCommandLine(arguments);
 }
 
@@ -38,29 +39,30 @@ TEST(CommandLine, IsUnderstoodOrExplained) {
                                  "--size", "640x480", "--dark", "--screenshot=x.png"});
   ASSERT_TRUE(full.options);
   EXPECT_EQ(full.options->fromType, tlFromType::tlOneAlarm);
-  EXPECT_EQ(full.options->size, QSize(640, 480));
+  EXPECT_EQ(full.options->size, (WindowSize{640, 480}));
   EXPECT_TRUE(full.options->dark);
   EXPECT_EQ(full.options->screenshot, "x.png");
-  for (const QStringList& wrong : {QStringList{"--from-type", "tlNothing"},
-                                   {"--size", "640"},
-                                   {"--size", "0x1"},
-                                   {"--process-id", "x"},
-                                   {"--no-such"},
-                                   {"stray"},
-                                   {"--headless"},
-                                   {"--report", "LPROC|1|0|1", "--output", "a.pdf"},
-                                   {"--history", "sqlite:a.db", "--report", "LPROC|1|0|1"},
-                                   {"--history", "sqlite:a.db", "--report", "LPROC|1|0|1", "--output", "a.txt"},
-                                   {"--output", "a.pdf"},
-                                   {"--history"}}) {
+  for (const std::vector<std::string>& wrong :
+       {std::vector<std::string>{"--from-type", "tlNothing"},
+        {"--size", "640"},
+        {"--size", "0x1"},
+        {"--process-id", "x"},
+        {"--no-such"},
+        {"stray"},
+        {"--headless"},
+        {"--report", "LPROC|1|0|1", "--output", "a.pdf"},
+        {"--history", "sqlite:a.db", "--report", "LPROC|1|0|1"},
+        {"--history", "sqlite:a.db", "--report", "LPROC|1|0|1", "--output", "a.txt"},
+        {"--output", "a.pdf"},
+        {"--history"}}) {
     const CommandLine read = Read(wrong);
-    EXPECT_FALSE(read.options) << wrong.join(' ').toStdString();
+    EXPECT_FALSE(read.options) << testing::PrintToString(wrong);
     EXPECT_EQ(read.exitCode, 2);
-    EXPECT_FALSE(read.text.isEmpty());
+    EXPECT_FALSE(read.text.empty());
   }
   const CommandLine help = Read({"--help"});
   EXPECT_EQ(help.exitCode, 0);
-  EXPECT_THAT(help.text.toStdString(), HasSubstr("--screenshot"));
+  EXPECT_THAT(help.text, HasSubstr("--screenshot"));
 }
 
 class SessionTest : public testing::Test {
@@ -162,7 +164,7 @@ TEST_F(ReadingTest, IsPaintedWithoutALookAtTheInput) {
 
 TEST(ReadingWords, StandForEveryQueryThatReadsRows) {
   for (const datasource::QueryContract& contract : datasource::Queries()) {
-    EXPECT_EQ(WordsFor(contract.query).isEmpty(), contract.columns.empty()) << contract.query;
+    EXPECT_EQ(WordsFor(contract.query).empty(), contract.columns.empty()) << contract.query;
   }
 }
 

@@ -1,4 +1,4 @@
-#include "console/RunContext.h"
+#include "console_core/RunContext.h"
 
 #include <algorithm>
 

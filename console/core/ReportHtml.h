@@ -1,15 +1,15 @@
 // An execution report as HTML, which the report window shows, printers get as pages and browsers read as a file.
 #pragma once
 
-#include <QString>
+#include <string>
 
-#include "console/ReportData.h"
+#include "console_core/ReportData.h"
 
 namespace quorvel::console {
 
 struct ReportText {
-  QString html;
-  QString footer;  // what stands at the foot of every page besides its number
+  std::string html;
+  std::string footer;  // what stands at the foot of every page besides its number
 };
 
 // A whole document that needs no other file. It keeps to what a QTextDocument understands; each run begins on a page of

@@ -1,4 +1,4 @@
-#include "console/ReportData.h"
+#include "console_core/ReportData.h"
 
 #include <algorithm>
 #include <limits>
