@@ -13,6 +13,7 @@
 #include "Measure.h"
 #include "Memory.h"
 #include "Peers.h"
+#include "StationQueries.h"
 #include "Viewer.h"
 #include "hub/sqlite/Queries.h"
 #include "list/StateList.h"
@@ -69,16 +70,7 @@ bool MeasureUserTree(const BareLoop& bare, Viewer& viewer) {
 bool MeasureTrees(const std::filesystem::path& history) {
   const BareLoop bare(history);
   Viewer viewer(history);
-  const auto readAll = [&] {
-    return bare.Run(hub::kStationsOfRuns,
-                    {{":process", kAny},
-                     {":station", kAny},
-                     {":company", kAny},
-                     {":from", viewer.from()},
-                     {":to", viewer.to()},
-                     {":state", 0}},
-                    "iitiidiiiiiii", kRows);
-  };
+  const auto readAll = [&] { return bench::ReadStationsOfRuns(bare, viewer.from(), viewer.to(), kRows); };
   bool kept = Report("1,000,000 rows: request to painted process tree / bare loop",
                      Compare([&] { return viewer.ShowProcesses(); }, readAll), kReadLimit);
 
@@ -136,9 +128,7 @@ bool MeasureList(const std::filesystem::path& history) {
     viewer.Click(run);
     return viewer.Click(group);
   };
-  const auto readAll = [&] {
-    return bare.Run(hub::kStationsOfState, {{":run", 1}, {":state", 1}}, "ddittttiiiiit", kRows);
-  };
+  const auto readAll = [&] { return bench::ReadStationsOfState(bare, kRows); };
   bool kept = Report("click to painted list of 1,000,000 rows / bare loop", Compare(click, readAll), kReadLimit);
 
   datasource::ProcessLogRecords rows;

@@ -1,8 +1,6 @@
 #include "Viewer.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
 #include "Measure.h"
@@ -12,11 +10,6 @@
 namespace quorvel::bench {
 
 using widgets::NodeId;
-
-void BenchPlatform::ShowMessage(std::string_view text, std::string_view title) {
-  std::fprintf(stderr, "%s: %s\n", std::string(title).c_str(), std::string(text).c_str());
-  std::exit(2);
-}
 
 Viewer::Viewer(const std::filesystem::path& history) : widget_(hub_, platform_) {
   widget_.tree().viewport()->installEventFilter(&treePaints_);

@@ -6,20 +6,13 @@
 #include <functional>
 #include <string_view>
 
-#include "BarePlatform.h"
+#include "BenchPlatform.h"
 #include "Painting.h"
 #include "control/ucProcessLog.h"
 #include "hub/RecordHub.h"
 #include "qt/ProcessLogWidget.h"
 
 namespace quorvel::bench {
-
-// A fixed present, and nobody to read a message: one ends the benchmark.
-class BenchPlatform : public BarePlatform {
- public:
-  void ShowMessage(std::string_view text, std::string_view title) override;
-  DateValue Now() const override { return DateFromCivil({2026, 11, 20, 12, 0, 0}); }
-};
 
 // What is timed begins with the gesture and ends when the pane that it fills has painted.
 class Viewer {
