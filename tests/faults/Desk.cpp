@@ -82,8 +82,12 @@ std::vector<scenario::ShownMessage> Desk::TakeMessages() {
 }
 
 std::string Desk::TakeLog() {
-  std::ifstream in(session().logFile(), std::ios::binary);
-  std::string text(std::istreambuf_iterator<char>(in), {});
+  std::string text;
+  {
+    // Not everywhere a file can go that is open.
+    std::ifstream in(session().logFile(), std::ios::binary);
+    text.assign(std::istreambuf_iterator<char>(in), {});
+  }
   std::filesystem::remove(session().logFile());
   return text;
 }
