@@ -85,8 +85,10 @@ void ucProcessLog::FillList(NodeId node) {
   }
 }
 
-void ucProcessLog::PrepareList(const list::Headers& headers) {
-  if (ClearColumnHeaderLV(headers.front().caption)) controls_.lvMotherList.SetHeaders(headers);
+void ucProcessLog::PrepareList(list::Headers headers) {
+  if (!ClearColumnHeaderLV(headers.front().caption)) return;
+  if (!platform_.HasFixedDates()) list::MakeRoomForRegionalDates(headers);
+  controls_.lvMotherList.SetHeaders(std::move(headers));
 }
 
 void ucProcessLog::lvMotherList_NodeProcess(NodeId node) {

@@ -361,7 +361,7 @@ class ucProcessLog {
   void GoTo(widgets::NodeId node);
   void FillList(widgets::NodeId node);
   // Makes the headers these unless they stand already: widths that the user set stay.
-  void PrepareList(const list::Headers& headers);
+  void PrepareList(list::Headers headers);
   void lvMotherList_NodeProcess(widgets::NodeId node);
   void lvMotherList_NodeAllProcess(widgets::NodeId node);
   void lvMotherList_NodeCurrentProcess(widgets::NodeId node);

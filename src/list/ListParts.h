@@ -41,6 +41,13 @@ inline widgets::ColumnHeader DateWithIconHeader(std::string_view caption) {
   constexpr widgets::Twips kIcon = 330;
   return {.caption = std::string(caption), .width = kDateWidth + kIcon, .tag = widgets::ColumnTag::kDates};
 }
+// The longest regional dates have four characters more than the fixed form: "11/19/2026 11:06:42 AM".
+inline void MakeRoomForRegionalDates(Headers& headers) {
+  constexpr widgets::Twips kMore = 600;
+  for (widgets::ColumnHeader& header : headers) {
+    if (header.tag == widgets::ColumnTag::kDates) header.width += kMore;
+  }
+}
 inline widgets::ColumnHeader NumberHeader(std::string_view caption, widgets::Twips width = 1000) {
   return {.caption = std::string(caption),
           .width = width,
