@@ -18,9 +18,8 @@
 #include "datasource/ProcessLog.h"
 #include "hub/RecordHub.h"
 #include "hub_com/ColumnReader.h"
-#include "hub_com/ComRecordSources.h"
+#include "hub_com/ComHub.h"
 #include "platform/windows/ComError.h"
-#include "platform/windows/LateBound.h"
 
 namespace {
 
@@ -91,7 +90,7 @@ double ReadArrays(hub_com::SourceLink& link, std::int32_t connection, bool texts
     ProcessLogRecords::ForEachColumn(records, [&](std::string_view name, auto& column) {
       if (std::ranges::find(promised, name) == promised.end()) return;
       if (std::is_same_v<decltype(column), datasource::TextColumn&> && !texts) return;
-      hub_com::ReadColumn(link.Get(name).raw(), rows, name, column);
+      hub_com::ReadColumn(link.Get(name), rows, name, column);
     });
   });
   link.Call("CloseProcessLogs", {Variant(connection)});
@@ -102,22 +101,20 @@ double ReadArrays(hub_com::SourceLink& link, std::int32_t connection, bool texts
 class Component {
  public:
   Component(DWORD context, std::string_view url)
-      : activator_(hub_com::MakeSystemActivator(context)),
-        link_(activator_, ProcessLog::kClassIdentifier, "", std::make_shared<hub_com::MemberNumbers>()),
-        sources_(activator_),
-        source_(datasource::CreateRecordSource<ProcessLog>(sources_, "")) {
-    connection_ = link_.Call("OpenConnection", {Variant(url)}).ToInt32();
-  }
+      : hub_(hub_com::MakeSystemActivator(context)),
+        connection_(hub_.OpenConnection(url)),
+        link_(hub_com::MakeSystemActivator(context), ProcessLog::kClassIdentifier, "",
+              std::make_shared<hub_com::MemberNumbers>()),
+        source_(datasource::CreateRecordSource<ProcessLog>(hub_, "")) {}
 
   double ReadAll() { return ::ReadAll(*source_, connection_); }
   double ReadArrays(bool texts) { return ::ReadArrays(link_, connection_, texts); }
 
  private:
-  std::shared_ptr<hub_com::ComActivator> activator_;
+  hub_com::ComHub hub_;
+  std::int32_t connection_;
   hub_com::SourceLink link_;
-  hub_com::ComRecordSources sources_;
   std::unique_ptr<ProcessLog> source_;
-  std::int32_t connection_ = 0;
 };
 
 bool Measure(const std::filesystem::path& folder) {

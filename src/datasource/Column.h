@@ -25,6 +25,8 @@ class Column {
   Column() = default;
   explicit Column(std::vector<T> values) { Hold(std::move(values)); }
   explicit Column(GrowingArray<T> values) { Hold(std::move(values)); }
+  // Values that lie in a block of any kind, where they stay.
+  Column(std::shared_ptr<const void> block, std::span<const T> values) : block_(std::move(block)), values_(values) {}
 
   std::size_t size() const { return values().size(); }
   // Valid as long as this column or a copy of it lives.

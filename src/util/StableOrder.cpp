@@ -26,11 +26,12 @@ constexpr int kMostDigitBits = 11;
 
 // Moves the numbers into the order of one digit, without changing the order of those that share it.
 void SortByDigit(std::span<const std::uint64_t> from, std::span<std::uint64_t> to, KeyBits digit) {
-  const std::uint64_t mask = (std::uint64_t{1} << digit.count) - 1;
+  const std::size_t mask = (std::size_t{1} << digit.count) - 1;
+  const auto digitOf = [&](std::uint64_t number) { return static_cast<std::size_t>(number >> digit.first) & mask; };
   std::vector<std::uint32_t> next(mask + 2);  // where the next number of each digit goes
-  for (const std::uint64_t number : from) ++next[((number >> digit.first) & mask) + 1];
+  for (const std::uint64_t number : from) ++next[digitOf(number) + 1];
   std::partial_sum(next.begin(), next.end(), next.begin());
-  for (const std::uint64_t number : from) to[next[(number >> digit.first) & mask]++] = number;
+  for (const std::uint64_t number : from) to[next[digitOf(number)]++] = number;
 }
 
 void SortByKey(std::vector<std::uint64_t>& numbers, KeyBits key) {
