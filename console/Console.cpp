@@ -12,6 +12,7 @@
 #include "console/HistorySession.h"
 #include "console/ScenarioRun.h"
 #include "console_core/ConsoleOptions.h"
+#include "console_core/ScriptRun.h"
 #include "qt/Convert.h"
 
 namespace quorvel::console {

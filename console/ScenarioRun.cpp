@@ -13,23 +13,13 @@
 #include "console/Subscription.h"
 #include "console_core/ReportData.h"
 #include "console_core/ReportHtml.h"
+#include "console_core/ScriptRun.h"
 #include "qt/Convert.h"
 #include "scenario/Scenario.h"
-#include "scenario/ScenarioHeadless.h"
 #include "scenario_qt/ScenarioQt.h"
 
 namespace quorvel::console {
 namespace {
-
-bool RunScript(scenario::Scenario& scenario, const ConsoleOptions& options) {
-  try {
-    if (!options.history.empty()) scenario.Open(options.history);
-    return scenario.Run(options.scenario, std::cout, std::cerr);
-  } catch (const std::exception& problem) {
-    std::cerr << problem.what() << std::endl;
-    return false;
-  }
-}
 
 // Writes the reports that a viewer asks for to one file; the last one stays. What fails is said on the terminal.
 class ReportFile final : public HostEvents {
@@ -64,12 +54,6 @@ int ExitCode(bool ok) {
 }
 
 }  // namespace
-
-int RunScenarioHeadless(const ConsoleOptions& options) {
-  scenario::ScenarioHeadless port;
-  scenario::Scenario scenario(port);
-  return ExitCode(RunScript(scenario, options));
-}
 
 int RunScenarioOnQt(const ConsoleOptions& options) {
   std::vector<std::unique_ptr<ConsoleWindow>> windows;

@@ -36,11 +36,11 @@ constexpr Option kOptions[] = {
     {"process-id", "N", "Show this process only (default -1: all)."},
     {"screenshot", "FILE.png", "Write a picture of the window; end then, unless a person sits in front of it."},
     {"part", "NAME", "Of that picture only this control, for example fraOption.", &Abilities::part},
-    {"scenario", "FILE", "Run the scenario in FILE, print what it prints, and end.", &Abilities::scenario},
+    {"scenario", "FILE", "Run the scenario in FILE, print what it prints, and end."},
     {"report", "KEYS",
      "Write an execution report of these runs to --output, for example 'LPROC|1|0|376;LPROC|1|0|375'."},
     {"output", "FILE", "File for the report that is asked for: .html, or .pdf where the console draws pages."},
-    {"headless", "", "Run the scenario without windows.", &Abilities::scenario},
+    {"headless", "", "Run the scenario without windows."},
     {"size", "WIDTHxHEIGHT", "Size of the window in pixels (default 1180x760)."},
     {"dark", "", "Use dark colours.", &Abilities::dark},
     {"help", "", "Show this help."},
@@ -120,8 +120,10 @@ void CheckReport(const ConsoleOptions& options, const Abilities& abilities) {
   if (!options.report.empty() && options.history.empty()) throw UsageError("--report needs --history");
   if (!options.report.empty() && options.output.empty()) throw UsageError("--report needs --output");
   if (options.output.empty()) return;
-  if (options.report.empty() && (options.scenario.empty() || options.headless)) {
-    throw UsageError("--output needs --report, or a --scenario with windows");
+  const bool ofScenario = abilities.reportOfScenario && !options.scenario.empty() && !options.headless;
+  if (options.report.empty() && !ofScenario) {
+    throw UsageError(abilities.reportOfScenario ? "--output needs --report, or a --scenario with windows"
+                                                : "--output needs --report");
   }
   if (EndsWith(options.output, ".html") || (abilities.pdf && EndsWith(options.output, ".pdf"))) return;
   throw UsageError(std::string("--output: ") + (abilities.pdf ? "neither .pdf nor" : "not") +

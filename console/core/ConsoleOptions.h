@@ -37,7 +37,7 @@ struct Abilities {
   bool dark = true;
   bool part = true;
   bool pdf = true;
-  bool scenario = true;
+  bool reportOfScenario = true;
 };
 
 // What came of reading the arguments: options, or a text to print and the code to end with.

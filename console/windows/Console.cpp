@@ -9,9 +9,11 @@
 #include <iostream>
 
 #include "console_core/ConsoleOptions.h"
+#include "console_core/ScriptRun.h"
 #include "console_windows/ConsoleWindow.h"
 #include "console_windows/HistorySession.h"
 #include "console_windows/Picture.h"
+#include "console_windows/ScenarioRun.h"
 #include "platform/windows/WideText.h"
 
 namespace quorvel::console {
@@ -78,7 +80,7 @@ int ShowWindow(const ConsoleOptions& options) {
 }  // namespace
 
 int RunConsole(std::span<const std::string> arguments) {
-  constexpr Abilities kAbilities{.dark = false, .part = false, .pdf = false, .scenario = false};
+  constexpr Abilities kAbilities{.dark = false, .part = false, .pdf = false, .reportOfScenario = false};
   const CommandLine commandLine = ReadCommandLine(arguments, kAbilities);
   if (!commandLine.options) {
     Say(commandLine.text, commandLine.exitCode != 0);
@@ -88,6 +90,8 @@ int RunConsole(std::span<const std::string> arguments) {
   const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_STANDARD_CLASSES};
   InitCommonControlsEx(&wanted);
   try {
+    if (commandLine.options->headless) return RunScenarioHeadless(*commandLine.options);
+    if (!commandLine.options->scenario.empty()) return RunScenario(*commandLine.options);
     return ShowWindow(*commandLine.options);
   } catch (const std::exception& problem) {
     Say(problem.what() + std::string("\n"), true);

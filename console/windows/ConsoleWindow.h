@@ -28,6 +28,8 @@ class ConsoleWindow final : public windows::Window {
  public:
   ConsoleWindow();
   ~ConsoleWindow() override;
+  ConsoleWindow(const ConsoleWindow&) = delete;
+  ConsoleWindow& operator=(const ConsoleWindow&) = delete;
 
   // Puts the viewer on the form, and its commands into the menus. `viewer` must be a child of this window; it must
   // stay until `Remove`.
