@@ -13,8 +13,8 @@
 namespace quorvel::windows {
 namespace {
 
-[[noreturn]] void RaiseSystemError(const char* what) {
-  const HRESULT result = HRESULT_FROM_WIN32(GetLastError());
+[[noreturn]] void RaiseSystemError(const char* what, DWORD error = GetLastError()) {
+  const HRESULT result = HRESULT_FROM_WIN32(error);
   throw Error(SystemError::kPermissionDenied, std::string(what) + ": " + DescriptionOf(result));
 }
 
@@ -30,8 +30,9 @@ class EmptiedClipboard {
     if (IsWindow(owner) == FALSE) standIn_ = MakeOwner();
     Open(standIn_ ? standIn_.get() : owner);
     if (EmptyClipboard() != FALSE) return;
+    const DWORD error = GetLastError();
     CloseClipboard();
-    RaiseSystemError("The clipboard cannot be emptied");
+    RaiseSystemError("The clipboard cannot be emptied", error);
   }
   ~EmptiedClipboard() { CloseClipboard(); }
   EmptiedClipboard(const EmptiedClipboard&) = delete;

@@ -87,6 +87,8 @@ class DetailWindow::Body final : public Window {
  public:
   Body(dlgLVDetail& detail, HWND viewer);
   ~Body() override;
+  Body(const Body&) = delete;
+  Body& operator=(const Body&) = delete;
 
   HWND WindowOf(const widgets::Control& control) const { return surface_.WindowOf(control); }
   bool TakeKey(UINT message, WPARAM wParam, LPARAM lParam);

@@ -47,7 +47,7 @@ void DropList::Closed() {
   const bool choice = accepted_ || !open_;
   open_ = false;
   const LRESULT row = SendMessageW(combo_, CB_GETCURSEL, 0, 0);
-  choice&& row >= 0 ? chosen_(static_cast<std::size_t>(row)) : left_();
+  (choice && row >= 0) ? chosen_(static_cast<std::size_t>(row)) : left_();
 }
 
 }  // namespace quorvel::windows

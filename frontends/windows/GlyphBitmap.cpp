@@ -1,14 +1,13 @@
 #include "windows/GlyphBitmap.h"
 
-// GDI+ expects these of the system's headers.
+// GDI+ expects this one before it.
 #include <objidl.h>
 
-#include <algorithm>
-using std::max;
-using std::min;
 #include <gdiplus.h>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <span>
 #include <vector>
@@ -46,7 +45,7 @@ Gdiplus::Color Opaque(std::uint32_t rgb) {
 
 Gdiplus::Color ColourOf(IconColour colour, const IconInk& ink) {
   if (const auto share = ShareOfBase(colour); ink.base && share) {
-    const auto alpha = static_cast<std::uint32_t>(*share * 255 + 0.5F);
+    const auto alpha = static_cast<std::uint32_t>(std::lround(*share * 255));
     return Gdiplus::Color((alpha << 24) | *ink.base);
   }
   return Opaque(widgets::IconRgb(colour, ink.dark));

@@ -48,7 +48,9 @@ int Icons::IndexOf(std::string_view key, Set& set) {
 int Icons::Append(const widgets::IconPicture& picture, const IconInk& ink) {
   const UniqueBitmap drawing =
       DrawIcon(picture, {.pixels = pixels_, .airAtRight = air_, .colours = BitmapColours::kStraight}, ink);
-  return ImageList_Add(list_.get(), drawing.get(), nullptr);
+  const int number = ImageList_Add(list_.get(), drawing.get(), nullptr);
+  if (number < 0) throw Error(SystemError::kOutOfMemory, "No memory for an icon");
+  return number;
 }
 
 void Icons::TakeSystemColours() {

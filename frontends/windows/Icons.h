@@ -26,6 +26,7 @@ class Icons {
   enum class Place { kAlone, kBesideText };
   // Small icons for this scale, in the colours of the system.
   explicit Icons(const Scale& scale, Place place = Place::kAlone);
+  ~Icons() = default;
   Icons(const Icons&) = delete;
   Icons& operator=(const Icons&) = delete;
 

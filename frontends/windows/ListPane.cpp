@@ -77,6 +77,12 @@ ListPane::ListPane(widgets::ListView& list, ListGestures gestures, HWND parent, 
 }
 
 ListPane::~ListPane() {
+  Leave();
+}
+
+// Once: another pane may show the list already when this one goes.
+void ListPane::Leave() {
+  if (std::exchange(left_, true)) return;
   list_.ObserveList(nullptr);
 }
 
@@ -371,6 +377,9 @@ void ListPane::HeaderChanged(const NMHEADERW& change) {
 
 std::optional<LRESULT> ListPane::Hear(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_DESTROY:
+      Leave();
+      return std::nullopt;
     case WM_SETFONT: {
       const LRESULT answer = DefSubclassProc(window(), message, wParam, lParam);
       DpiChanged();

@@ -52,6 +52,9 @@ class ListPane final : public widgets::ListObserver {
  private:
   enum class Pressed { kNothing, kRow, kSelectedRow, kEmptySpace };
 
+  // The window ends: the list is not heard any more.
+  void Leave();
+
   // What the list says.
   void FollowHeaders();
   void FollowHeader(std::size_t column);
@@ -107,6 +110,7 @@ class ListPane final : public widgets::ListObserver {
   std::optional<HeaderKeys> headerKeys_;
   std::optional<std::size_t> anchor_;  // where Shift begins
   Pressed pressed_ = Pressed::kNothing;
+  bool left_ = false;
   bool following_ = false;  // what happens now comes from the list, not from the user
   POINT menuPlace_{};
   TypedLetters typed_;

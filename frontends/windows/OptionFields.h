@@ -23,6 +23,7 @@ class OptionFields {
 
   // In the window `panel`. All must outlive the fields.
   OptionFields(ucProcessLog& control, Surface& surface, HWND panel, Gesture gesture);
+  ~OptionFields() = default;
   OptionFields(const OptionFields&) = delete;
   OptionFields& operator=(const OptionFields&) = delete;
 

@@ -106,6 +106,8 @@ std::optional<LRESULT> SplitterGrip::Handle(UINT message, WPARAM wParam, LPARAM 
       return 0;
     case WM_KEYDOWN:
       return TakeKey(wParam);
+    case WM_GETDLGCODE:
+      return DLGC_WANTARROWS | (wParam == VK_RETURN || wParam == VK_ESCAPE ? DLGC_WANTMESSAGE : 0);
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
     case WM_SIZE:

@@ -17,6 +17,8 @@ class Frame : public Window {
  public:
   Frame(Surface& surface, HWND parent, const wchar_t* name);
   ~Frame() override { End(); }
+  Frame(const Frame&) = delete;
+  Frame& operator=(const Frame&) = delete;
 
  protected:
   std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -48,6 +50,8 @@ class Plain final : public Window {
  public:
   Plain(HWND parent, int systemColour);
   ~Plain() override { End(); }
+  Plain(const Plain&) = delete;
+  Plain& operator=(const Plain&) = delete;
 
  protected:
   std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -68,6 +72,8 @@ class SplitterGrip final : public Window {
   };
   SplitterGrip(Gestures gestures, Surface& surface, HWND parent);
   ~SplitterGrip() override { End(); }
+  SplitterGrip(const SplitterGrip&) = delete;
+  SplitterGrip& operator=(const SplitterGrip&) = delete;
 
  protected:
   std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam) override;

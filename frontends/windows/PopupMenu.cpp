@@ -47,13 +47,12 @@ void PopupMenu::AppendEntries() {
 
 void PopupMenu::Track() {
   if (!model_.open() || menu_) return;
+  const POINT place = place_();
   menu_ = UniqueMenu(CreatePopupMenu());
   AppendEntries();
-  const POINT place = place_();
   const auto menu = menu_;
-  const auto id =
-      static_cast<UINT>(TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON | TPM_LEFTALIGN | TPM_TOPALIGN,
-                                       place.x, place.y, 0, owner_, nullptr));
+  const auto id = static_cast<UINT>(
+      TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, place.x, place.y, 0, owner_, nullptr));
   if (menu.use_count() == 1) return;  // this object is gone
   menu_.reset();
   wanted_ = false;

@@ -41,6 +41,8 @@ class ProcessLogWindow::Body final : public Window {
  public:
   Body(ucProcessLog& control, HWND parent);
   ~Body() override;
+  Body(const Body&) = delete;
+  Body& operator=(const Body&) = delete;
 
   ucProcessLog& control() { return control_; }
   TreePane& tree() { return *tree_; }

@@ -81,19 +81,33 @@ void Surface::Place(HWND window, const RECT& place, bool visible) {
 }
 
 // Windows of one parent move together, in the order in which the parents were first heard of.
+bool Surface::MovedTogether(std::span<const Move> moves) noexcept {
+  HDWP together = BeginDeferWindowPos(static_cast<int>(moves.size()));
+  for (const Move& move : moves) {
+    if (together == nullptr) return false;
+    const RECT& place = move.place;
+    together = DeferWindowPos(together, move.window, nullptr, place.left, place.top, place.right - place.left,
+                              place.bottom - place.top, MoveFlags(move.visible));
+  }
+  return together != nullptr && EndDeferWindowPos(together) != FALSE;
+}
+
+void Surface::MoveOneByOne(std::span<const Move> moves) noexcept {
+  for (const Move& move : moves) {
+    const RECT& place = move.place;
+    SetWindowPos(move.window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 MoveFlags(move.visible));
+  }
+}
+
 void Surface::MoveAll() noexcept {
   auto moves = std::exchange(moves_, {});
   while (!moves.empty()) {
     const HWND parent = moves.front().parent;
     const auto others =
         std::stable_partition(moves.begin(), moves.end(), [&](const Move& move) { return move.parent == parent; });
-    HDWP together = BeginDeferWindowPos(static_cast<int>(others - moves.begin()));
-    for (auto move = moves.begin(); move != others && together != nullptr; ++move) {
-      together = DeferWindowPos(together, move->window, nullptr, move->place.left, move->place.top,
-                                move->place.right - move->place.left, move->place.bottom - move->place.top,
-                                MoveFlags(move->visible));
-    }
-    if (together != nullptr) EndDeferWindowPos(together);
+    const std::span together(moves.begin(), others);
+    if (!MovedTogether(together)) MoveOneByOne(together);
     moves.erase(moves.begin(), others);
   }
 }

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -24,6 +25,7 @@ class Surface {
  public:
   // For the controls inside `window`.
   explicit Surface(HWND window);
+  ~Surface() = default;
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
 
@@ -73,6 +75,9 @@ class Surface {
     bool visible;
   };
   void MoveAll() noexcept;
+  // False where one of them cannot move, and so none did.
+  static bool MovedTogether(std::span<const Move> moves) noexcept;
+  static void MoveOneByOne(std::span<const Move> moves) noexcept;
 
   Scale scale_;
   Fonts fonts_;

@@ -111,7 +111,7 @@ std::optional<LRESULT> TabBar::Hear(UINT message, WPARAM wParam, LPARAM lParam) 
 
 void TabBar::ChooseNeighbour(int by, bool circle) {
   const auto count = static_cast<std::ptrdiff_t>(tabs_.tabs().size());
-  std::ptrdiff_t tab = static_cast<std::ptrdiff_t>(tabs_.current());
+  auto tab = static_cast<std::ptrdiff_t>(tabs_.current());
   for (std::ptrdiff_t seen = 1; seen < count; ++seen) {
     tab += by;
     if (!circle && (tab < 0 || tab >= count)) return;

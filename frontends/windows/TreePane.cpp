@@ -56,6 +56,12 @@ TreePane::TreePane(widgets::TreeView& tree, TreeGestures gestures, HWND parent, 
 }
 
 TreePane::~TreePane() {
+  Leave();
+}
+
+// Once: another pane may show the tree already when this one goes.
+void TreePane::Leave() {
+  if (std::exchange(left_, true)) return;
   tree_.ObserveTree(nullptr);
 }
 
@@ -162,7 +168,7 @@ void TreePane::TreeScrolled(NodeId top) {
 }
 
 NodeId TreePane::TopNode() const {
-  const HTREEITEM top = TreeView_GetFirstVisible(window());
+  const auto top = TreeView_GetFirstVisible(window());
   return top == TreeView_GetRoot(window()) ? NodeId::kNone : NodeOf(top);
 }
 
@@ -219,7 +225,7 @@ void TreePane::ChangeItem(NodeId node) {
 void TreePane::Forget(HTREEITEM parent) {
   const TemporaryValue forgetting(forgetting_, true);
   // The selection would go from each to the next one.
-  if (const HTREEITEM selected = TreeView_GetSelection(window()); selected != nullptr && selected != parent) {
+  if (const auto selected = TreeView_GetSelection(window()); selected != nullptr && selected != parent) {
     TreeView_SelectItem(window(), nullptr);
   }
   if (parent == TVI_ROOT) {
@@ -362,6 +368,9 @@ void TreePane::SelectedFromOutside(const NMTREEVIEWW& change) {
 
 std::optional<LRESULT> TreePane::Hear(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_DESTROY:
+      Leave();
+      return std::nullopt;
     case WM_LBUTTONDOWN:
       PressLeft(PlaceOf(lParam), false);
       return 0;
@@ -423,7 +432,7 @@ LRESULT TreePane::TakeFocus(WPARAM from) {
 NodeId TreePane::NodeAt(POINT place, UINT* part) const {
   TVHITTESTINFO hit{};
   hit.pt = place;
-  const HTREEITEM item = TreeView_HitTest(window(), &hit);
+  const auto item = TreeView_HitTest(window(), &hit);
   if (part != nullptr) *part = hit.flags;
   return NodeOf(item);
 }
@@ -449,7 +458,7 @@ void TreePane::ReleaseRight(POINT place) {
 // On the node that is selected, which was clicked when it became so.
 void TreePane::OpenMenuByKey() {
   menuPlace_ = {};
-  if (const HTREEITEM selected = TreeView_GetSelection(window()); selected != nullptr) {
+  if (const auto selected = TreeView_GetSelection(window()); selected != nullptr) {
     TreeView_EnsureVisible(window(), selected);
     RECT text{};
     RECT seen{};
@@ -494,7 +503,7 @@ void TreePane::OpenOrGoDown(NodeId node) {
 }
 
 void TreePane::MoveByKey(WPARAM key, LPARAM lParam) {
-  const HTREEITEM before = TreeView_GetSelection(window());
+  const auto before = TreeView_GetSelection(window());
   if (before == nullptr) {
     if (tree_.ChildCount(NodeId::kNone) > 0) Click(tree_.Child(NodeId::kNone, 0));
     return;
@@ -503,7 +512,7 @@ void TreePane::MoveByKey(WPARAM key, LPARAM lParam) {
     const TemporaryValue gesture(inGesture_, true);
     DefSubclassProc(window(), WM_KEYDOWN, key, lParam);
   }
-  const HTREEITEM now = TreeView_GetSelection(window());
+  const auto now = TreeView_GetSelection(window());
   if (now != before) Click(NodeOf(now));
 }
 

@@ -56,6 +56,9 @@ class TreePane final : public widgets::TreeObserver {
   bool SeesNode(widgets::NodeId node) const override;
 
  private:
+  // The window ends: the tree is not heard any more.
+  void Leave();
+
   // What the tree says.
   void InsertChildren(widgets::NodeId parent, std::size_t first, std::size_t count);
   HTREEITEM InsertItem(HTREEITEM parent, HTREEITEM before, widgets::NodeId node);
@@ -95,9 +98,10 @@ class TreePane final : public widgets::TreeObserver {
   Icons& icons_;
   UniqueWindow window_;
   std::vector<HTREEITEM> items_;  // by NodeId
-  bool following_ = false;        // what happens now comes from the tree, not from the user
-  bool forgetting_ = false;       // items go whose nodes are gone
-  bool inGesture_ = false;        // the end of a gesture says which node was clicked
+  bool left_ = false;
+  bool following_ = false;   // what happens now comes from the tree, not from the user
+  bool forgetting_ = false;  // items go whose nodes are gone
+  bool inGesture_ = false;   // the end of a gesture says which node was clicked
   bool painting_ = false;
   POINT menuPlace_{};
   TypedLetters typed_;

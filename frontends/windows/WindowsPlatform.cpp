@@ -65,7 +65,7 @@ bool KeepHourglass() {
 }
 
 WindowsPlatform::~WindowsPlatform() {
-  SetMousePointer(MousePointer::kDefault);
+  WindowsPlatform::SetMousePointer(MousePointer::kDefault);
 }
 
 void WindowsPlatform::ShowMessage(std::string_view text, std::string_view title) {

@@ -3,13 +3,14 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
+
+#include "platform/GrowingMemory.h"
 
 namespace quorvel::datasource {
 
@@ -57,7 +58,8 @@ class GrowingArray {
 
  private:
   struct Free {
-    void operator()(T* values) const { std::free(values); }
+    void operator()(T* values) const { FreeMemory(values, bytes); }
+    std::size_t bytes = 0;
   };
 
   std::size_t AtLeast(std::size_t count) const {
@@ -70,10 +72,11 @@ class GrowingArray {
       values_.reset();
     } else {
       if (capacity > std::numeric_limits<std::size_t>::max() / sizeof(T)) throw std::bad_alloc();
-      void* const block = std::realloc(values_.get(), capacity * sizeof(T));
+      const std::size_t bytes = capacity * sizeof(T);
+      void* const block = ResizeMemory(values_.get(), capacity_ * sizeof(T), bytes);
       if (block == nullptr) throw std::bad_alloc();
       static_cast<void>(values_.release());
-      values_.reset(static_cast<T*>(block));
+      values_ = std::unique_ptr<T[], Free>(static_cast<T*>(block), Free{bytes});
     }
     capacity_ = capacity;
   }

@@ -10,6 +10,7 @@
 #include <type_traits>
 
 #include "platform/Error.h"
+#include "platform/windows/ComServer.h"
 #else
 #include <pwd.h>
 #include <unistd.h>
@@ -53,6 +54,16 @@ using Module = std::unique_ptr<std::remove_pointer_t<HMODULE>, ModuleRelease>;
 
 using UserAndDomainCall = BOOL(WINAPI*)(char* user, DWORD* userLength, char* domain, DWORD* domainLength);
 
+// From the folder of the program or of the system, or else from beside this library where a host keeps it elsewhere.
+// Not from the working folder, where anybody may have put a library of that name.
+Module LoadAccountLibrary() {
+  constexpr const wchar_t* kName = L"OstranaAccount.dll";
+  Module library(LoadLibraryExW(kName, nullptr, LOAD_LIBRARY_SEARCH_DEFAULT_DIRS));
+  if (library) return library;
+  const std::filesystem::path beside = std::filesystem::path(windows::OwnModulePath()).replace_filename(kName);
+  return Module(LoadLibraryExW(beside.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH));
+}
+
 // Null when the library has no such call.
 UserAndDomainCall UserAndDomainCallOf(const Module& library) {
   const FARPROC found = GetProcAddress(library.get(), "GetCurrentUserAndDomain");
@@ -82,8 +93,7 @@ SystemVersion StandardPlatform::OperatingSystem() const {
 }
 
 std::optional<Account> StandardPlatform::CurrentAccount() const {
-  // Not from the working folder, where anybody may have put a library of that name.
-  const Module library(LoadLibraryExA("OstranaAccount.dll", nullptr, LOAD_LIBRARY_SEARCH_DEFAULT_DIRS));
+  const Module library = LoadAccountLibrary();
   const UserAndDomainCall getUserAndDomain = library ? UserAndDomainCallOf(library) : nullptr;
   NameBuffer user;
   NameBuffer domain;

@@ -118,6 +118,40 @@ TEST_F(ActivationTest, TabWalksThroughTheFieldsAndOut) {
   EXPECT_EQ(placed.host->Calls(), "Key");
 }
 
+// A host would go to another control by an arrow, or press a button by Enter.
+TEST_F(ActivationTest, KeysThatMoveWithinAFieldAreNotTheHosts) {
+  ShowRuns();
+  ASSERT_EQ(placed.Do(OLEIVERB_UIACTIVATE), S_OK);
+  const auto active = placed.control.As<IOleInPlaceActiveObject>();
+  const auto press = [&](HWND field, WPARAM key) {
+    SetFocus(field);
+    placed.host->Calls();
+    MSG message{};
+    message.hwnd = field;
+    message.message = WM_KEYDOWN;
+    message.wParam = key;
+    return active->TranslateAccelerator(&message);
+  };
+  const HWND list = placed.Find(WC_LISTVIEWW);
+  EXPECT_EQ(press(list, VK_HOME), S_OK);
+  EXPECT_EQ(placed.host->Calls(), "");
+  EXPECT_EQ(SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED), 0);
+  EXPECT_EQ(press(list, VK_RETURN), S_OK);
+  EXPECT_EQ(placed.host->Calls(), "");
+  EXPECT_EQ(press(placed.Find(WC_EDITW), VK_RETURN), S_FALSE);
+  EXPECT_EQ(placed.host->Calls(), "Key");
+}
+
+TEST_F(ActivationTest, AHostMayTakeItsUserInterfaceBackAtOnce) {
+  placed.host->whenActive = [&] { placed.inPlace->InPlaceDeactivate(); };
+  placed.host->Calls();
+  EXPECT_EQ(placed.Do(OLEIVERB_UIACTIVATE), S_OK);
+  EXPECT_EQ(placed.host->Calls(),
+            "CanInPlaceActivate OnInPlaceActivate OnUIActivate Active NotActive OnUIDeactivate LostFocus "
+            "OnInPlaceDeactivate ShowObject");
+  EXPECT_EQ(placed.Window(), nullptr);
+}
+
 TEST_F(ActivationTest, StandsWhereTheHostPutsItAndShowsWhatIsToBeSeen) {
   ASSERT_EQ(placed.Do(OLEIVERB_SHOW), S_OK);
   const auto inHost = [&](HWND window) {

@@ -130,8 +130,10 @@ TEST_F(RowsTest, ARowOutlivesTheControlButNotItsList) {
   const auto row = Row(2);
   const std::string key = KeyOf(*row.get());
   ClickRoot(0);
-  Bstr text;
-  EXPECT_EQ(row->get_Text(text.Put()), ErrorOf(35601));
+  wchar_t old[] = L"old";
+  BSTR text = old;
+  EXPECT_EQ(row->get_Text(&text), ErrorOf(35601));
+  EXPECT_EQ(text, nullptr) << "a caller would free it";
   EXPECT_EQ(TakeLeftError().description, "The list does not have this row any more");
   ClickRoot(2);
   EXPECT_EQ(KeyOf(*row.get()), key);

@@ -163,7 +163,9 @@ HRESULT StrictHost::SetBorderSpace(LPCBORDERWIDTHS widths) noexcept {
   return S_OK;
 }
 HRESULT StrictHost::SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) noexcept {
-  return Note(object != nullptr ? "Active" : "NotActive");
+  Note(object != nullptr ? "Active" : "NotActive");
+  if (object != nullptr && whenActive) whenActive();
+  return S_OK;
 }
 HRESULT StrictHost::InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) noexcept {
   return Unexpected("InsertMenus");

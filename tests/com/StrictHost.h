@@ -5,6 +5,7 @@
 #include <oleidl.h>
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,7 @@ class StrictHost final
   // What it keeps of the control.
   std::vector<std::pair<std::wstring, Variant>> kept;
   bool letsActivate = true;
+  std::function<void()> whenActive;  // before it says that it knows
   RECT place{10, 20, 910, 620};
   RECT clip{0, 0, 1000, 700};
 

@@ -385,6 +385,13 @@ TEST_F(WindowTest, ShowsTheSameWhenItIsMadeAgain) {
   EXPECT_EQ(TabCtrl_GetItemCount(Of(controls().sstProcessLog)), tabs);
   EXPECT_EQ(TreeView_GetCount(viewer->tree().window()), 2);
 
+  auto former = std::move(viewer);
+  DestroyWindow(former->window());
+  Make();
+  former.reset();
+  controls().tvMotherList.Clear();
+  EXPECT_EQ(TreeView_GetCount(viewer->tree().window()), 0) << "the former window took the tree along";
+
   SetFocus(viewer->tree().window());
   form.reset();
   EXPECT_EQ(viewer->window(), nullptr) << "its parent ended it";

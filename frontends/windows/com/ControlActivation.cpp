@@ -89,15 +89,14 @@ void ControlObject::ActivateUserInterface(const MSG* message, bool takeFocus) {
       hasUserInterface_ = false;
       return;
     }
-    if (frame_) {
-      frame_->SetActiveObject(this, kNameInHost);
-      frame_->SetBorderSpace(nullptr);
+    // In each of these calls the host may take the user interface back, or all of the control.
+    const ComPtr<IOleInPlaceUIWindow> holders[] = {ComPtr<IOleInPlaceUIWindow>(frame_.get()), document_};
+    for (const auto& holder : holders) {
+      if (!holder || !hasUserInterface_) continue;
+      holder->SetActiveObject(this, kNameInHost);
+      if (hasUserInterface_) holder->SetBorderSpace(nullptr);
     }
-    if (document_) {
-      document_->SetActiveObject(this, kNameInHost);
-      document_->SetBorderSpace(nullptr);
-    }
-    TellFocus(true);
+    if (hasUserInterface_) TellFocus(true);
   }
   if (!takeFocus || !window_ || window_->HasFocus()) return;
   const bool byTab = message != nullptr && message->message == WM_KEYDOWN && message->wParam == VK_TAB;
@@ -159,11 +158,12 @@ HRESULT ControlObject::ReactivateAndUndo() noexcept {
   return INPLACE_E_NOTUNDOABLE;
 }
 
-// The keys that the viewer has no use for are the host's: among them the Tab key out of the last field.
+// The keys that the viewer has no use for are the host's: among them the Tab key out of the last field. What moves
+// within a field never comes to hosts, which would go to another control by the arrows, or press a button by Enter.
 HRESULT ControlObject::TranslateAccelerator(MSG* message) noexcept {
   if (message == nullptr) return E_POINTER;
   return Answering(__uuidof(IOleInPlaceActiveObject), [&] {
-    if (window_ && window_->viewer().TakeKey(*message)) return S_OK;
+    if (window_ && (window_->viewer().TakeKey(*message) || window_->GiveToField(*message))) return S_OK;
     const auto controlSite = site_.As<IOleControlSite>();
     if (!controlSite) return S_FALSE;
     return controlSite->TranslateAccelerator(message, KeysHeld()) == S_OK ? S_OK : S_FALSE;

@@ -3,7 +3,10 @@
 
 #include <olectl.h>
 
-#include <new>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
 
 #include "com/Answer.h"
 #include "com/Snapshot.h"
@@ -29,10 +32,8 @@ struct GivenPoint {
 }  // namespace
 
 HRESULT ControlObject::Create(REFIID interfaceWanted, void** object) noexcept {
-  return Answering(__uuidof(_ucProcessLog), [&] {
-    const auto made = ComPtr<ControlObject>::Adopt(new ControlObject());
-    return made->QueryInterface(interfaceWanted, object);
-  });
+  return Answering(__uuidof(_ucProcessLog),
+                   [&] { return MakeObject<ControlObject>()->QueryInterface(interfaceWanted, object); });
 }
 
 ControlObject::ControlObject() : extent_(kFirstExtent), events_(*this, viewer_->platform.calls()) {
@@ -201,8 +202,11 @@ HRESULT ControlObject::SetColorScheme(LOGPALETTE* /*palette*/) noexcept {
   return S_OK;
 }
 
-HRESULT ControlObject::GetControlInfo(CONTROLINFO* /*info*/) noexcept {
-  return E_NOTIMPL;  // access keys are answered where the focus is, see TranslateAccelerator
+// Enter is no key for a host's default button. Access keys are answered where the focus is, see TranslateAccelerator.
+HRESULT ControlObject::GetControlInfo(CONTROLINFO* info) noexcept {
+  if (info == nullptr) return E_POINTER;
+  *info = {.cb = sizeof(*info), .hAccel = nullptr, .cAccel = 0, .dwFlags = CTRLINFO_EATS_RETURN};
+  return S_OK;
 }
 
 HRESULT ControlObject::OnMnemonic(MSG* /*message*/) noexcept {
@@ -234,8 +238,8 @@ HRESULT ControlObject::EnumConnectionPoints(IEnumConnectionPoints** points) noex
   if (points == nullptr) return E_POINTER;
   *points = nullptr;
   return Answering(__uuidof(IConnectionPointContainer), [&] {
-    *points = new Snapshot<IEnumConnectionPoints, IConnectionPoint*, GivenPoint>(
-        {GivenPoint{ComPtr<IConnectionPoint>(&events_)}});
+    std::vector<GivenPoint> all{GivenPoint{ComPtr<IConnectionPoint>(&events_)}};
+    *points = MakeObject<Snapshot<IEnumConnectionPoints, IConnectionPoint*, GivenPoint>>(std::move(all)).Detach();
   });
 }
 

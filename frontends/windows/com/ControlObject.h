@@ -23,6 +23,9 @@ class ControlObject final : public ComObject<ControlMembers, ErrorSupport<_ucPro
                                              IOleInPlaceActiveObject, IOleControl, IViewObject2, IPersistStreamInit,
                                              IPersistPropertyBag, IProvideClassInfo2, IConnectionPointContainer> {
  public:
+  ControlObject();
+  ControlObject(const ControlObject&) = delete;
+  ControlObject& operator=(const ControlObject&) = delete;
   // What ComClass wants.
   static HRESULT Create(REFIID interfaceWanted, void** object) noexcept;
   // What the control says of itself (OLEMISC).
@@ -116,7 +119,6 @@ class ControlObject final : public ComObject<ControlMembers, ErrorSupport<_ucPro
     std::string key;
   };
 
-  ControlObject();
   ~ControlObject() override;
 
   Kept ToKeep();

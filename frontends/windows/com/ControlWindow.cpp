@@ -1,5 +1,7 @@
 #include "com/ControlWindow.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quorvel::windows {
@@ -11,6 +13,11 @@ int WidthOf(const RECT& place) {
 
 int HeightOf(const RECT& place) {
   return place.bottom - place.top;
+}
+
+bool IsMove(WPARAM key) {
+  constexpr WPARAM kMoves[] = {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_HOME, VK_END, VK_PRIOR, VK_NEXT};
+  return std::ranges::find(kMoves, key) != std::end(kMoves);
 }
 
 }  // namespace
@@ -31,6 +38,17 @@ void ControlWindow::Place(const RECT& place, const RECT& clip) {
 bool ControlWindow::HasFocus() const {
   const HWND focus = GetFocus();
   return focus != nullptr && (focus == window() || IsChild(window(), focus) != FALSE);
+}
+
+bool ControlWindow::GiveToField(const MSG& message) const {
+  if (message.message != WM_KEYDOWN || IsChild(window(), message.hwnd) == FALSE) return false;
+  const bool enter = message.wParam == VK_RETURN;
+  if (!enter && !IsMove(message.wParam)) return false;
+  const LRESULT wanted = SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
+  if ((wanted & (enter ? DLGC_WANTALLKEYS : DLGC_WANTARROWS | DLGC_WANTALLKEYS)) == 0) return false;
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+  return true;
 }
 
 std::optional<LRESULT> ControlWindow::Handle(UINT message, WPARAM /*wParam*/, LPARAM /*lParam*/) {

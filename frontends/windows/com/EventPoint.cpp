@@ -83,7 +83,7 @@ HRESULT EventPoint::EnumConnections(IEnumConnections** connections) noexcept {
   if (connections == nullptr) return E_POINTER;
   *connections = nullptr;
   return Answering(__uuidof(IConnectionPoint),
-                   [&] { *connections = new Snapshot<IEnumConnections, CONNECTDATA, Sink>(sinks_); });
+                   [&] { *connections = MakeObject<Snapshot<IEnumConnections, CONNECTDATA, Sink>>(sinks_).Detach(); });
 }
 
 void EventPoint::MajMenu() {

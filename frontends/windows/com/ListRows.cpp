@@ -24,20 +24,19 @@ class ListItemObject final : public ComObject<Dispatched<IListItem>, ErrorSuppor
     return Answer([&] { *Given(value) = static_cast<LONG>(Item().Index()); });
   }
   STDMETHODIMP get_Key(BSTR* value) noexcept override {
-    return Answer([&] { *Given(value) = Bstr(Item().Key()).Detach(); });
+    return AnswerText(value, [&] { return Item().Key(); });
   }
   STDMETHODIMP get_Text(BSTR* value) noexcept override {
-    return Answer([&] { *Given(value) = Bstr(Item().Text()).Detach(); });
+    return AnswerText(value, [&] { return Item().Text(); });
   }
   STDMETHODIMP get_SubItems(LONG number, BSTR* value) noexcept override {
-    return Answer([&] {
-      Given(value);
+    return AnswerText(value, [&] {
       if (number < 1) throw Error(SystemError::kIndexOutOfRange, "The cells after the first one count from 1");
-      *value = Bstr(Item().SubItem(static_cast<std::size_t>(number))).Detach();
+      return Item().SubItem(static_cast<std::size_t>(number));
     });
   }
   STDMETHODIMP get_SmallIcon(BSTR* value) noexcept override {
-    return Answer([&] { *Given(value) = Bstr(Item().SmallIcon()).Detach(); });
+    return AnswerText(value, [&] { return Item().SmallIcon(); });
   }
   STDMETHODIMP get_Selected(VARIANT_BOOL* value) noexcept override {
     return Answer([&] { *Given(value) = ToVariantBool(Item().Selected()); });
@@ -47,6 +46,14 @@ class ListItemObject final : public ComObject<Dispatched<IListItem>, ErrorSuppor
   template <class Body>
   static HRESULT Answer(Body&& body) noexcept {
     return Answering(__uuidof(IListItem), std::forward<Body>(body));
+  }
+  // The caller frees whatever stands there, after a failure too.
+  template <class Body>
+  static HRESULT AnswerText(BSTR* value, Body&& text) noexcept {
+    return Answer([&] {
+      *Given(value) = nullptr;
+      *value = Bstr(text()).Detach();
+    });
   }
 
   const ListView& List() const { return viewer_->control.controls().lvMotherList; }
@@ -96,7 +103,7 @@ class RowWalk final : public ComObject<IEnumVARIANT> {
   STDMETHODIMP Clone(IEnumVARIANT** walk) noexcept override {
     if (walk == nullptr) return E_POINTER;
     *walk = nullptr;
-    return Answering(__uuidof(IEnumVARIANT), [&] { *walk = new RowWalk(viewer_, row_); });
+    return Answering(__uuidof(IEnumVARIANT), [&] { *walk = MakeObject<RowWalk>(viewer_, row_).Detach(); });
   }
 
  private:
@@ -122,7 +129,7 @@ class ListItemsObject final : public ComObject<Dispatched<IListItems>, ErrorSupp
   STDMETHODIMP get__NewEnum(IUnknown** rows) noexcept override {
     return Answer([&] {
       *Given(rows) = nullptr;
-      *rows = new RowWalk(viewer_, 0);
+      *rows = MakeObject<RowWalk>(viewer_, std::size_t{0}).Detach();
     });
   }
 

@@ -8,6 +8,7 @@
 
 #include "com/HistoryFactory.h"
 #include "control/ucProcessLog.h"
+#include "datasource/RecordSource.h"
 #include "windows/WindowsPlatform.h"
 
 namespace quorvel::windows {
@@ -40,11 +41,28 @@ class HostedPlatform final : public WindowsPlatform {
   int calls_ = 0;
 };
 
+// Makes sources for the control's connection.
+class SourcesOfControl final : public datasource::RecordSourceFactory {
+ public:
+  // Both must outlive it; the control may be made later.
+  SourcesOfControl(HistoryFactory& factory, const ucProcessLog& control) : factory_(factory), control_(control) {}
+
+  std::unique_ptr<datasource::RecordSource> Create(std::string_view classIdentifier,
+                                                   std::string_view serverName) override {
+    return factory_.Create(control_.p_Connect(), classIdentifier, serverName);
+  }
+
+ private:
+  HistoryFactory& factory_;
+  const ucProcessLog& control_;
+};
+
 // Shared by the object that a host holds and by the rows that it handed out, which may outlive it.
 struct Viewer {
   std::shared_ptr<HistoryFactory> factory = MakeFactory();
   HostedPlatform platform;
-  ucProcessLog control{platform, *factory};
+  SourcesOfControl sources{*factory, control};
+  ucProcessLog control{platform, sources};
 
   // Whether code of the control is being run further up: neither it nor what draws it may go then.
   bool Busy() { return platform.calls() > 0 || control.AtWork(); }

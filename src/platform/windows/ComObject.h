@@ -6,7 +6,9 @@
 
 #include <atomic>
 #include <type_traits>
+#include <utility>
 
+#include "platform/windows/ComPtr.h"
 #include "platform/windows/ComServer.h"
 
 namespace quorvel::windows {
@@ -73,5 +75,11 @@ class ComObject : public First, public Others... {
   std::atomic<ULONG> references_ = 1;
   LibraryUse use_;
 };
+
+// A new object, by its first reference.
+template <class Object, class... Arguments>
+ComPtr<Object> MakeObject(Arguments&&... arguments) {
+  return ComPtr<Object>::Adopt(new Object(std::forward<Arguments>(arguments)...));
+}
 
 }  // namespace quorvel::windows

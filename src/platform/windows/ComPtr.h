@@ -24,7 +24,8 @@ class ComPtr {
     if (pointer_ != nullptr) pointer_->Release();
   }
   ComPtr& operator=(const ComPtr& other) {
-    ComPtr(other).Swap(*this);
+    ComPtr copy(other);
+    Swap(copy);
     return *this;
   }
   ComPtr& operator=(ComPtr&& other) noexcept {

@@ -21,6 +21,10 @@ std::string TextOf(BSTR text) {
   return FromWide({text, SysStringLen(text)});
 }
 
+Variant::Variant(const Variant& other) : Variant() {
+  if (FAILED(VariantCopy(&value_, const_cast<VARIANT*>(&other.value_)))) throw std::bad_alloc();
+}
+
 Variant Variant::As(VARTYPE type) const {
   Variant converted;
   Check(VariantChangeType(&converted.value_, const_cast<VARIANT*>(&value_), 0, type), "A value cannot be converted");

@@ -86,7 +86,8 @@ class Variant {
     made.value_.plVal = reinterpret_cast<LONG*>(&value);
     return made;
   }
-  Variant(const Variant& other) : Variant() { VariantCopy(&value_, const_cast<VARIANT*>(&other.value_)); }
+  // std::bad_alloc when there is no memory for it.
+  Variant(const Variant& other);
   Variant(Variant&& other) noexcept : value_(other.value_) { VariantInit(&other.value_); }
   ~Variant() { VariantClear(&value_); }
   Variant& operator=(const Variant& other) {
