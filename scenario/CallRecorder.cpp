@@ -1,5 +1,6 @@
 #include "scenario/CallRecorder.h"
 
+#include <cstddef>
 #include <optional>
 
 #include "platform/Error.h"
@@ -21,6 +22,16 @@ void CallRecorder::Run(std::string_view name, std::string_view arguments, const 
   }
   if (status != nullptr) line.append(" -> ").append(std::to_string(*status));
   Note(std::move(line));
+}
+
+std::int32_t CallRecorder::AddConnection(std::int32_t index) {
+  indices_.push_back(index);
+  return static_cast<std::int32_t>(indices_.size());
+}
+
+std::int32_t CallRecorder::IndexOf(std::int32_t connection) const {
+  const auto place = static_cast<std::size_t>(connection) - 1;  // none for 0 and below
+  return place < indices_.size() ? indices_[place] : connection;
 }
 
 std::string ArgumentText(std::int32_t value) {

@@ -24,6 +24,11 @@ class CallRecorder {
   void Run(std::string_view name, std::string_view arguments, const std::function<void()>& call,
            std::int32_t* status = nullptr);
 
+  // Scripts count connections from 1 as they are opened, whatever indices the data-access component gives them. Takes
+  // such an index and gives the number, and the other way round; a number that no connection has stands for itself.
+  std::int32_t AddConnection(std::int32_t index);
+  std::int32_t IndexOf(std::int32_t connection) const;
+
   void Note(std::string line) { lines_.push_back(std::move(line)); }
   // What was noted since the last time.
   std::vector<std::string> Take() { return std::exchange(lines_, {}); }
@@ -33,6 +38,7 @@ class CallRecorder {
  private:
   Faults& faults_;
   std::vector<std::string> lines_;
+  std::vector<std::int32_t> indices_;  // of the connections, by number
 };
 
 // Arguments as they stand in the journal.

@@ -41,14 +41,16 @@ class Recorded : public Wrapped {
   }
 
   template <class Method, class... Arguments>
-  void Query(std::string_view name, Method method, std::int32_t& status, const Arguments&... arguments) {
+  void Query(std::string_view name, Method method, std::int32_t& status, std::int32_t connection,
+             const Arguments&... arguments) {
     calls_.Run(
-        name, Joined(arguments...), [&] { (inner_.get()->*method)(arguments..., status); }, &status);
+        name, Joined(connection, arguments...),
+        [&] { (inner_.get()->*method)(calls_.IndexOf(connection), arguments..., status); }, &status);
   }
 
   template <class Method>
   void Release(std::string_view name, Method method, std::int32_t connection) {
-    calls_.Run(name, Joined(connection), [&] { (inner_.get()->*method)(connection); });
+    calls_.Run(name, Joined(connection), [&] { (inner_.get()->*method)(calls_.IndexOf(connection)); });
   }
 
  private:

@@ -17,7 +17,7 @@ class Scenario {
   // `port` must outlive the scenario.
   explicit Scenario(ScenarioPort& port) : session_(port) {}
 
-  // Opens a history before the script begins, which then needs no `open`. Errors are the hub's.
+  // Opens a history before the script begins, which then needs no `open`. Errors are the component's.
   void Open(std::string_view url) { session_.Open(url); }
 
   // What the script has at hand, for programs that drive it line by line.

@@ -12,6 +12,7 @@
 #include "control/ucProcessLog.h"
 #include "datasource/RecordSource.h"
 #include "platform/Platform.h"
+#include "scenario/DataComponent.h"
 #include "scenario/Keys.h"
 #include "widgets/Control.h"
 #include "widgets/Menu.h"
@@ -142,10 +143,14 @@ class ViewerPort {
   virtual void TypeAhead(std::string_view text) = 0;
 };
 
-// A host: its form, and its status bar.
+// A host: its data, its form, and its status bar.
 class ScenarioPort {
  public:
   virtual ~ScenarioPort() = default;
+  // The component that the host's viewers read from, asked for once. The hub in this program, unless a port has
+  // another.
+  virtual std::unique_ptr<DataComponent> MakeDataComponent();
+
   // Puts a new viewer on the form. It uses this platform and these record sources, which outlive it.
   virtual std::unique_ptr<ViewerPort> PlaceViewer(Platform& platform, datasource::RecordSourceFactory& factory) = 0;
 

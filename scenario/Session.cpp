@@ -13,7 +13,7 @@ namespace {
 constexpr int kWidth = 900;
 constexpr int kHeight = 600;
 
-// The file of a URL that the hub has opened.
+// The file of a URL that was opened.
 std::filesystem::path FileOf(std::string_view url) {
   url.remove_prefix(url.find(':') + 1);
   url = url.substr(0, url.find('?'));
@@ -23,7 +23,7 @@ std::filesystem::path FileOf(std::string_view url) {
 }  // namespace
 
 void Session::Open(std::string_view url) {
-  connection_ = hub_.OpenConnection(url);
+  connection_ = calls_.AddConnection(component_->OpenConnection(url));
   url_ = url;
   const auto present = viewers_.find(present_);
   if (present != viewers_.end()) present->second->viewer().p_Connect(connection_);

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "datasource/ErrorLog.h"
-#include "hub/RecordHub.h"
 #include "scenario/CallRecorder.h"
+#include "scenario/DataComponent.h"
 #include "scenario/EventRecorder.h"
 #include "scenario/Faults.h"
 #include "scenario/RecordingSources.h"
@@ -34,7 +34,7 @@ class Session {
   // The error log of all viewers; it need not exist.
   const std::filesystem::path& logFile() const { return logFile_; }
 
-  // Opens a history, for the present viewer and for those that are placed later. Errors are the hub's.
+  // Opens a history, for the present viewer and for those that are placed later. Errors are the component's.
   void Open(std::string_view url);
   // Changes the history that was opened last, as another program would. ScriptError when none is open.
   void Execute(std::string_view sql);
@@ -60,8 +60,8 @@ class Session {
   CallRecorder calls_{faults_};
   ScenarioPlatform platform_{faults_, port_};
   std::filesystem::path logFile_ = datasource::ErrorLogFile(platform_);
-  hub::RecordHub hub_;
-  RecordingFactory factory_{hub_, calls_};
+  std::unique_ptr<DataComponent> component_ = port_.MakeDataComponent();
+  RecordingFactory factory_{component_->Sources(), calls_};
   EventRecorder events_;
   std::string url_;
   std::int32_t connection_ = -1;

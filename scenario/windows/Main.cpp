@@ -1,9 +1,14 @@
-// Runs a scenario on the controls of Windows: quorvel_scenario_windows [--history URL] FILE.
+// Runs a scenario on the controls of Windows: quorvel_scenario_windows [--sources com] [--history URL] FILE.
 #include <windows.h>
 
 #include <commctrl.h>
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "scenario/ProgramMain.h"
+#include "scenario_windows/ScenarioOverCom.h"
 #include "scenario_windows/ScenarioWindows.h"
 #include "windows/Handles.h"
 
@@ -55,6 +60,14 @@ int main(int argc, char** argv) {
     std::cerr << "No window for the viewers\n";
     return 2;
   }
-  quorvel::scenario::ScenarioWindows port(form.get(), status.get());
-  return quorvel::scenario::ProgramMain(port, {argv + 1, argv + argc}, std::cout, std::cerr);
+  std::vector<std::string> arguments{argv + 1, argv + argc};
+  const bool overCom = arguments.size() > 2 && arguments[0] == "--sources" && arguments[1] == "com";
+  std::unique_ptr<quorvel::scenario::ScenarioWindows> port;
+  if (overCom) {
+    arguments.erase(arguments.begin(), arguments.begin() + 2);
+    port = std::make_unique<quorvel::scenario::ScenarioOverCom>(form.get(), status.get());
+  } else {
+    port = std::make_unique<quorvel::scenario::ScenarioWindows>(form.get(), status.get());
+  }
+  return quorvel::scenario::ProgramMain(*port, arguments, std::cout, std::cerr);
 }

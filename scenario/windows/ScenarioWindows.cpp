@@ -4,12 +4,11 @@
 
 #include "platform/windows/WideText.h"
 #include "scenario_windows/NativeControls.h"
-#include "scenario_windows/WindowsViewer.h"
 
 namespace quorvel::scenario {
 
 std::unique_ptr<ViewerPort> ScenarioWindows::PlaceViewer(Platform& platform, datasource::RecordSourceFactory& factory) {
-  return std::make_unique<WindowsViewer>(form_, platform, factory, pump_);
+  return std::make_unique<WindowsViewer>(form_, platform, factory, pump_, layout_);
 }
 
 void ScenarioWindows::SetStatusText(std::string_view text) {

@@ -3,8 +3,11 @@
 
 #include <windows.h>
 
+#include <utility>
+
 #include "scenario/ScenarioPort.h"
 #include "scenario_windows/MessagePump.h"
+#include "scenario_windows/WindowsViewer.h"
 
 namespace quorvel::scenario {
 
@@ -12,7 +15,8 @@ class ScenarioWindows : public ScenarioPort {
  public:
   // Viewers are placed on `form`, a window on the screen. `statusBar`: a native one, the host's stStatusBar. Both
   // outlive the port, and the port the viewers.
-  ScenarioWindows(HWND form, HWND statusBar) : form_(form), statusBar_(statusBar) {}
+  ScenarioWindows(HWND form, HWND statusBar, FormLayout layout = {})
+      : form_(form), statusBar_(statusBar), layout_(std::move(layout)) {}
 
   std::unique_ptr<ViewerPort> PlaceViewer(Platform& platform, datasource::RecordSourceFactory& factory) override;
 
@@ -22,6 +26,7 @@ class ScenarioWindows : public ScenarioPort {
  private:
   HWND form_;
   HWND statusBar_;
+  FormLayout layout_;
   MessagePump pump_;
 };
 

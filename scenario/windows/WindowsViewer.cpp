@@ -50,9 +50,16 @@ class TypingPause {
 }  // namespace
 
 // A window system gives a new form the focus, or does not; a script begins without it.
-WindowsViewer::WindowsViewer(HWND form, Platform& platform, datasource::RecordSourceFactory& factory, MessagePump& pump)
-    : form_(form), pump_(pump), input_(pump), control_(platform, factory), window_(control_, form) {
+WindowsViewer::WindowsViewer(HWND form, Platform& platform, datasource::RecordSourceFactory& factory, MessagePump& pump,
+                             FormLayout layout)
+    : form_(form),
+      pump_(pump),
+      layout_(std::move(layout)),
+      input_(pump),
+      control_(platform, factory),
+      window_(control_, form) {
   pump_.Serve(window_);
+  if (layout_.placed) layout_.placed(window_);
   MoveFocus(nullptr);
 }
 
@@ -60,6 +67,7 @@ WindowsViewer::WindowsViewer(HWND form, Platform& platform, datasource::RecordSo
 WindowsViewer::~WindowsViewer() {
   if (window_.listMenu().menu() != nullptr || window_.treeMenu().menu() != nullptr) input_.PressKey(form_, VK_ESCAPE);
   pump_.Leave(window_);
+  if (layout_.leaving) layout_.leaving();
 }
 
 HWND WindowsViewer::WindowOf(const widgets::Control& control) const {
@@ -206,7 +214,16 @@ SeenMenu WindowsViewer::Look(const widgets::Menu& menu) const {
 
 void WindowsViewer::Resize(int width, int height) {
   const Scale scale = windows::ScaleOf(form_);
-  ResizeWindow(window_.window(), scale.Of96(width), scale.Of96(height));
+  const int wantedWidth = scale.Of96(width);
+  const int wantedHeight = scale.Of96(height);
+  if (layout_.placed) {
+    const RECT outer = PlaceIn(nullptr, form_);
+    const RECT inner = ClientOf(window_.window());
+    ResizeWindow(form_, outer.right - outer.left + wantedWidth - inner.right,
+                 outer.bottom - outer.top + wantedHeight - inner.bottom);
+  } else {
+    ResizeWindow(window_.window(), wantedWidth, wantedHeight);
+  }
   pump_.Settle();
 }
 

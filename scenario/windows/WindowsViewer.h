@@ -1,6 +1,8 @@
 // One viewer of a scenario as a window of Windows.
 #pragma once
 
+#include <functional>
+
 #include "control/ucProcessLog.h"
 #include "scenario/ScenarioPort.h"
 #include "scenario_windows/Input.h"
@@ -9,10 +11,18 @@
 
 namespace quorvel::scenario {
 
+// A form that lays its viewer out, and so gives it its size through its own: told of each viewer that is placed on it,
+// and before one goes. Without these the form only holds its viewers.
+struct FormLayout {
+  std::function<void(windows::ProcessLogWindow&)> placed = {};
+  std::function<void()> leaving = {};
+};
+
 class WindowsViewer final : public ViewerPort {
  public:
   // A child of `form`. `pump` outlives the viewer.
-  WindowsViewer(HWND form, Platform& platform, datasource::RecordSourceFactory& factory, MessagePump& pump);
+  WindowsViewer(HWND form, Platform& platform, datasource::RecordSourceFactory& factory, MessagePump& pump,
+                FormLayout layout);
   ~WindowsViewer() override;
   WindowsViewer(const WindowsViewer&) = delete;
   WindowsViewer& operator=(const WindowsViewer&) = delete;
@@ -86,6 +96,7 @@ class WindowsViewer final : public ViewerPort {
 
   HWND form_;
   MessagePump& pump_;
+  FormLayout layout_;
   Input input_;
   POINT gripAt_{};  // where the pointer holds the splitter, within its grip
   ucProcessLog control_;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -31,7 +32,7 @@ struct CallMethod<kCall> {
                                        typename Wire<Arguments>::Type... arguments) noexcept {
     return face->object->Answer<Source>([&](SharedHub& hub, Source& source) {
       face->object->SetShowsDetail(kGivesDetail<kCall>);
-      (source.*kCall)(hub.IndexOf(connection), Wire<Arguments>::In(arguments)...);
+      hub.Run(connection, [&](std::int32_t index) { (source.*kCall)(index, Wire<Arguments>::In(arguments)...); });
     });
   }
 };

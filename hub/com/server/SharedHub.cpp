@@ -12,7 +12,6 @@ namespace quorvel::hub_com {
 namespace {
 
 constexpr const wchar_t* kSettings = L"Software\\Ostrana\\clRecordHub";
-constexpr std::int32_t kNotOpen = -1;
 // Indices that Open gives lie above all numbers of settings.
 constexpr std::int32_t kLastSetting = 0xFFFF;
 
@@ -57,7 +56,8 @@ std::int32_t SharedHub::Open(std::string_view url) {
 
 void SharedHub::Close(std::int32_t connection) {
   const auto found = open_.find(connection);
-  hub_.CloseConnection(found == open_.end() ? kNotOpen : found->second);
+  if (found == open_.end()) RaiseNotOpen(connection);
+  hub_.CloseConnection(found->second);
   open_.erase(found);
 }
 
@@ -67,6 +67,10 @@ std::int32_t SharedHub::IndexOf(std::int32_t connection) {
   const std::optional<std::string> url = UrlOfSetting(connection);
   if (!url) return kNotOpen;
   return open_[connection] = hub_.OpenConnection(*url);
+}
+
+void SharedHub::RaiseNotOpen(std::int32_t connection) {
+  throw hub::HubError(SystemError::kInvalidCall, "Connection " + std::to_string(connection) + " is not open");
 }
 
 }  // namespace quorvel::hub_com

@@ -7,6 +7,7 @@
 #include <mutex>
 #include <string_view>
 
+#include "hub/HubError.h"
 #include "hub/RecordHub.h"
 
 namespace quorvel::hub_com {
@@ -27,10 +28,25 @@ class SharedHub {
   std::int32_t Open(std::string_view url);
   // Error 5 when it is not open. One of the settings is opened again at its next use.
   void Close(std::int32_t connection);
-  // The hub's own index of a connection; -1 for one that is neither open nor set.
-  std::int32_t IndexOf(std::int32_t connection);
+  // Runs call(index) with the hub's own index of a connection. What such a call makes of a connection that is neither
+  // open nor set is an error that names the caller's number.
+  template <class Call>
+  void Run(std::int32_t connection, Call call) {
+    const std::int32_t index = IndexOf(connection);
+    try {
+      call(index);
+    } catch (const Error&) {
+      if (index == kNotOpen) RaiseNotOpen(connection);
+      throw;
+    }
+  }
 
  private:
+  static constexpr std::int32_t kNotOpen = -1;
+
+  std::int32_t IndexOf(std::int32_t connection);
+  [[noreturn]] static void RaiseNotOpen(std::int32_t connection);
+
   std::mutex mutex_;
   hub::RecordHub hub_;
   std::map<std::int32_t, std::int32_t> open_;  // the hub's indices
