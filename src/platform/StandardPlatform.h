@@ -23,8 +23,8 @@ class StandardPlatform : public Platform {
   std::string ToFileText(std::string_view text) const override;
   // Error 5 when Windows does not give its version.
   SystemVersion OperatingSystem() const override;
-  // On Windows what the account library "OstranaAccount.dll" says, from the program's, the system's or this library's
-  // folder; nothing without it. Elsewhere the host's name and the user's.
+  // On Windows what the account library "OstranaAccount.dll" says, from the folder of the program, of the system or of
+  // this library; nothing without it. Elsewhere the host's name and the user's.
   std::optional<Account> CurrentAccount() const override;
   std::optional<std::string> CurrentUser() const override;
 };

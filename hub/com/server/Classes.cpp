@@ -13,6 +13,7 @@
 #include "datasource/TaskSchedulerLog.h"
 #include "datasource/UsersImport.h"
 #include "hub_com/server/Methods.h"
+#include "platform/windows/ComObject.h"
 
 namespace quorvel::hub_com {
 namespace {
@@ -70,10 +71,8 @@ using CurrentMethods = MethodTable<Current, &Current::StopExecution>;
 template <class Source, const IID& kIdentity, const Method* (*kMethods)()>
 HRESULT Create(REFIID wanted, void** object) noexcept {
   return windows::Answering(kIdentity, [&] {
-    auto* const made = new HubObject(Source::kClassIdentifier, kIdentity, kMethods());
-    const HRESULT result = made->QueryInterface(wanted, object);
-    made->Release();
-    return result;
+    const auto made = windows::MakeObject<HubObject>(Source::kClassIdentifier, kIdentity, kMethods());
+    return made->QueryInterface(wanted, object);
   });
 }
 

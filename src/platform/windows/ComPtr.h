@@ -24,8 +24,7 @@ class ComPtr {
     if (pointer_ != nullptr) pointer_->Release();
   }
   ComPtr& operator=(const ComPtr& other) {
-    ComPtr copy(other);
-    Swap(copy);
+    if (this != &other) ComPtr(other).Swap(*this);
     return *this;
   }
   ComPtr& operator=(ComPtr&& other) noexcept {
