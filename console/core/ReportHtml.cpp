@@ -83,8 +83,8 @@ std::string Escaped(std::string_view text) {
 
 // A name within a line, which keeps its own direction of writing to itself.
 std::string Isolated(std::string_view name) {
-  constexpr const char* kFirstStrongIsolate = "\u2068";
-  constexpr const char* kPopIsolate = "\u2069";
+  constexpr const char* kFirstStrongIsolate = "&#x2068;";
+  constexpr const char* kPopIsolate = "&#x2069;";
   return kFirstStrongIsolate + Escaped(name) + kPopIsolate;
 }
 
