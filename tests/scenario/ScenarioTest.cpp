@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
-#include <regex>
 #include <sstream>
 
 #include "scenario/ProgramMain.h"
@@ -16,6 +15,17 @@ namespace {
 
 using testing::EndsWith;
 using testing::HasSubstr;
+
+// Source and description of each error as their first words alone.
+std::string WithoutTextsOfErrors(const std::string& printed) {
+  std::istringstream in(printed);
+  std::string kept;
+  for (std::string line; std::getline(in, line);) {
+    const bool text = line.starts_with("source ") || line.starts_with("description ");
+    kept += (text ? line.substr(0, line.find(' ')) : line) + "\n";
+  }
+  return kept;
+}
 
 class ScenarioTest : public testing::Test {
  protected:
@@ -100,13 +110,12 @@ TEST_F(ScenarioTest, FaultsWaitForTheirTurnAndHappenOnce) {
           "call m_GetLogAll 1\ncall m_GetLogAll 2\ncall m_GetLogAll 3\ncall m_GetLogAll 0\ncall m_GetLogAll 5\n"))
       << problems_.str();
   const std::string text = out_.str();
-  const std::string calls = text.substr(text.find("> call m_GetLogAll 1"));
-  EXPECT_TRUE(std::regex_match(calls, std::regex("> call m_GetLogAll 1\nstate = 1\n"
-                                                 "> call m_GetLogAll 2\nerror 80040205\nsource .*\ndescription .*\n"
-                                                 "> call m_GetLogAll 3\nerror 5\nsource .*\ndescription .*\n"
-                                                 "> call m_GetLogAll 0\nstate = 0\n"
-                                                 "> call m_GetLogAll 5\nstate = 5\n")))
-      << calls;
+  EXPECT_EQ(WithoutTextsOfErrors(text.substr(text.find("> call m_GetLogAll 1"))),
+            "> call m_GetLogAll 1\nstate = 1\n"
+            "> call m_GetLogAll 2\nerror 80040205\nsource\ndescription\n"
+            "> call m_GetLogAll 3\nerror 5\nsource\ndescription\n"
+            "> call m_GetLogAll 0\nstate = 0\n"
+            "> call m_GetLogAll 5\nstate = 5\n");
 }
 
 TEST_F(ScenarioTest, TheProgramTellsByItsExitCodeWhatCameOfIt) {
