@@ -52,7 +52,7 @@ End Sub
 Set viewer = CreateObject("Quorvel.ucProcessLog")
 viewer.p_Connect = viewer.OpenHistory("sqlite:" & WScript.Arguments(0))
 viewer.p_FromType = kByProcess
-viewer.m_GetLogAll kAllStates
+viewer.m_GetLogByProcess
 WScript.Echo "Processes"
 For Each key In viewer.NodeKeys
   viewer.ExpandNode key
@@ -69,6 +69,10 @@ viewer.m_Copy
 PrintList
 key = viewer.ListItems(1).Key
 WScript.Echo "Row of the key " & key & ": " & viewer.ListItems(key).Index
+
+viewer.m_GetLogAll kAllStates
+WScript.Echo "All"
+PrintTree
 
 viewer.SelectTab "Connections"
 WScript.Echo "Connections"

@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <objbase.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -11,6 +10,7 @@
 
 #include "datasource/ProcessLog.h"
 #include "hub_com/ComRecordSources.h"
+#include "hub_com/RegisteredHub.h"
 #include "platform/windows/ComError.h"
 #include "platform/windows/ComValues.h"
 #include "support/SmallHistory.h"
@@ -24,7 +24,6 @@ using testing::HasSubstr;
 using windows::ComPtr;
 
 constexpr IID kIdentity = {0x9D6DA27D, 0x866A, 0x4B34, {0x9D, 0xEA, 0x36, 0x71, 0x40, 0xA3, 0x11, 0x38}};
-constexpr const char* kReferenceVariable = "QUORVEL_TEST_REFERENCE";
 constexpr const wchar_t* kSettings = L"Software\\Ostrana\\clRecordHub";
 constexpr std::int32_t kConnection = 7;
 
@@ -57,7 +56,7 @@ ComPtr<IDispatch> Unmarshaled(const std::string& bytes) {
 
 // What the other process does: it holds an object until it is ended.
 TEST(ServerProcess, DISABLED_HoldsAnObject) {
-  const fs::path reference = std::getenv(kReferenceVariable);
+  const fs::path reference = _wgetenv(kReferenceVariable);
   ComPtr<IDispatch> object;
   windows::Check(
       hub_com::MakeSystemActivator(CLSCTX_INPROC_SERVER)->Create(ProcessLog::kClassIdentifier, "", kIdentity, object),
@@ -72,7 +71,7 @@ TEST(ServerProcess, DISABLED_HoldsAnObject) {
 class ServerProcess {
  public:
   explicit ServerProcess(const fs::path& reference) {
-    SetEnvironmentVariableW(L"QUORVEL_TEST_REFERENCE", reference.c_str());
+    SetEnvironmentVariableW(kReferenceVariable, reference.c_str());
     std::wstring program(MAX_PATH, L'\0');
     program.resize(GetModuleFileNameW(nullptr, program.data(), MAX_PATH));
     std::wstring command =

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <objbase.h>
 
+#include <cstdlib>
 #include <memory>
 
 namespace quorvel::test {
@@ -13,7 +14,7 @@ class HubEnvironment : public testing::Environment {
  public:
   void SetUp() override {
     ASSERT_HRESULT_SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
-    hub_ = std::make_unique<RegisteredHub>();
+    if (_wgetenv(kReferenceVariable) == nullptr) hub_ = std::make_unique<RegisteredHub>();
   }
   void TearDown() override {
     hub_.reset();

@@ -8,6 +8,9 @@
 
 namespace quorvel::test {
 
+// Where a second process of a test puts what the first one looks for. It uses the registration of the first.
+inline constexpr const wchar_t* kReferenceVariable = L"QUORVEL_TEST_REFERENCE";
+
 class RegisteredHub {
  public:
   RegisteredHub() : library_(LoadLibraryW(L"clRecordHub.dll")) {
