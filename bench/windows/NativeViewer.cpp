@@ -10,6 +10,7 @@
 #include "Measure.h"
 #include "windows/ListPane.h"
 #include "windows/TreePane.h"
+#include "windows/Window.h"
 
 namespace quorvel::bench {
 namespace {

@@ -13,7 +13,7 @@
 #include "hub/RecordHub.h"
 #include "windows/Handles.h"
 #include "windows/ProcessLogWindow.h"
-#include "windows/Window.h"
+#include "windows/Ear.h"
 
 namespace quorvel::bench {
 

@@ -107,7 +107,7 @@ NodeId TreePane::TopNode() const {
   return verticalScrollBar()->value() == 0 ? NodeId::kNone : model_.NodeOf(indexAt({0, 0}));
 }
 
-bool TreePane::SeesNode(NodeId node) const {
+bool TreePane::SeesNode(NodeId node) {
   const QRect line = visualRect(model_.IndexOf(node));
   return line.isValid() && line.top() >= 0 && line.bottom() < viewport()->height();
 }

@@ -30,7 +30,7 @@ class TreePane final : public QTreeView, public widgets::TreeObserver {
   void TreeSelectionChanged() override;
   void TreeScrolled(widgets::NodeId top) override;
   widgets::NodeId TopNode() const override;
-  bool SeesNode(widgets::NodeId node) const override;
+  bool SeesNode(widgets::NodeId node) override;
 
   // Where on the screen the menu belongs that was asked for last.
   QPoint menuPlace() const { return menuPlace_; }

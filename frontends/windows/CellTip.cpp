@@ -12,7 +12,6 @@ namespace {
 TTTOOLINFOW ToolOf(HWND list) {
   TTTOOLINFOW tool{};
   tool.cbSize = sizeof(tool);
-  tool.uFlags = TTF_SUBCLASS;
   tool.hwnd = list;
   tool.lpszText = LPSTR_TEXTCALLBACKW;
   return tool;
@@ -36,6 +35,15 @@ void CellTip::PointAt(const std::optional<Cell>& cell, const RECT& place) {
   TTTOOLINFOW tool = ToolOf(list_);
   tool.rect = place;
   SendMessageW(tip_.get(), TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void CellTip::Relay(UINT message, WPARAM wParam, LPARAM lParam) {
+  MSG told{};
+  told.hwnd = list_;
+  told.message = message;
+  told.wParam = wParam;
+  told.lParam = lParam;
+  SendMessageW(tip_.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&told));
 }
 
 bool CellTip::Notify(NMHDR& header) {

@@ -24,6 +24,8 @@ class CellTip {
 
   // The pointer is over a cell, which lies there, or over none.
   void PointAt(const std::optional<Cell>& cell, const RECT& place);
+  // The list got a message of the mouse.
+  void Relay(UINT message, WPARAM wParam, LPARAM lParam);
   // Whether a notification that the list got was the tip's.
   bool Notify(NMHDR& header);
   void SetLook(HFONT font, int width);

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "windows/Contents.h"
+#include "windows/Ear.h"
 #include "windows/GlyphBitmap.h"
 #include "windows/Guard.h"
 #include "windows/PictureButton.h"

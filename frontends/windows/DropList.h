@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <functional>
 
-#include "windows/Window.h"
+#include "windows/Ear.h"
 
 namespace quorvel::windows {
 

@@ -37,7 +37,7 @@ std::optional<LRESULT> HeaderKeys::Hear(UINT message, WPARAM wParam, LPARAM lPar
       InvalidateRect(header_, nullptr, FALSE);
       return std::nullopt;
     case WM_PAINT: {
-      const LRESULT answer = DefSubclassProc(header_, message, wParam, lParam);
+      const LRESULT answer = ear_.Pass(message, wParam, lParam);
       if (GetFocus() == header_) Frame();
       return answer;
     }

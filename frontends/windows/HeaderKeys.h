@@ -6,7 +6,7 @@
 #include <functional>
 #include <optional>
 
-#include "windows/Window.h"
+#include "windows/Ear.h"
 
 namespace quorvel::windows {
 

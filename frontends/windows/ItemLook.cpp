@@ -65,6 +65,22 @@ HFONT FontOf(HWND window) {
   return font != nullptr ? font : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
 }
 
+bool ConcernsContent(UINT message) {
+  switch (message) {
+    case WM_PAINT:
+    case WM_PRINTCLIENT:
+    case WM_GETOBJECT:
+    case WM_CONTEXTMENU:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_SETFOCUS:
+      return true;
+    default:
+      return message >= WM_USER || (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+             (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+  }
+}
+
 DrawnAfterwards::DrawnAfterwards(HWND window)
     : window_(window), visible_((GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0) {
   // A hidden window would be shown by being allowed to draw again.

@@ -31,6 +31,10 @@ int ItemHeight(HFONT font, int iconPixels, const Scale& scale);
 // The font that a window was given, else the one that dialogs have.
 HFONT FontOf(HWND window);
 
+// Whether a message to a pane is about what is in it, so that what is not up to date there must become so before:
+// painting, input, questions and orders that native controls know. Others are about the window.
+bool ConcernsContent(UINT message);
+
 // Nothing of a window is drawn while one lives, and all of it afterwards. For batches: to draw after each of many
 // changes is what makes native controls slow.
 class DrawnAfterwards {

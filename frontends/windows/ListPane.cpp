@@ -10,6 +10,7 @@
 #include "windows/Guard.h"
 #include "windows/ItemLook.h"
 #include "windows/TemporaryValue.h"
+#include "windows/Window.h"
 
 namespace quorvel::windows {
 namespace {
@@ -72,6 +73,10 @@ ListPane::ListPane(widgets::ListView& list, ListGestures gestures, HWND parent, 
   headerKeys_.emplace(header_, window(),
                       [this](int column) { Tell(gestures_.columnClick, static_cast<std::size_t>(column) + 1); });
   ear_.emplace(window(), [this](UINT message, WPARAM wParam, LPARAM lParam) { return Hear(message, wParam, lParam); });
+  headerEar_.emplace(header_, [this](UINT message, WPARAM, LPARAM) {
+    if (ConcernsContent(message)) CatchUp();
+    return std::optional<LRESULT>();
+  });
   list_.ObserveList(this);
   ListPane::ListReset();
 }
@@ -103,28 +108,47 @@ void ListPane::DpiChanged() {
 // --- What the list says
 
 void ListPane::ListReset() {
-  Guarded([&] {
-    {
-      const TemporaryValue following(following_, true);
-      const DrawnAfterwards quietly(window());
-      // Without rows for a moment, the native list forgets which one was the current one and where it was scrolled to.
-      ListView_SetItemCountEx(window(), 0, 0);
-      FollowHeaders();
-      ListView_SetItemCountEx(window(), static_cast<int>(list_.Count()), 0);
-    }
-    FollowSelection(true);
-  });
+  FallBehind();
+  behindRows_ = true;
 }
 
 void ListPane::HeadersChanged() {
   if (following_) return;
+  FallBehind();
+  behindHeaders_ = true;
+}
+
+void ListPane::FallBehind() {
+  if (!behindRows_ && !behindHeaders_) InvalidateRect(window(), nullptr, FALSE);
+}
+
+void ListPane::CatchUp() {
+  const bool rows = std::exchange(behindRows_, false);
+  const bool headers = std::exchange(behindHeaders_, false) || rows;
+  if (!headers) return;
   Guarded([&] {
-    const DrawnAfterwards quietly(window());
-    FollowHeaders();
+    {
+      const TemporaryValue following(following_, true);
+      std::optional<DrawnAfterwards> quietly;
+      if (list_.headers() != shownHeaders_) quietly.emplace(window());
+      FollowHeaders();
+      if (rows) FollowRows();
+    }
+    if (rows) FollowSelection(true);
   });
 }
 
+// Seen from their beginning, without a current one. The native list takes as long for a number of rows that it has
+// already as for another one.
+void ListPane::FollowRows() {
+  const auto rows = static_cast<int>(list_.Count());
+  GoTo(std::nullopt);
+  ScrollTo({});
+  if (ListView_GetItemCount(window()) != rows) ListView_SetItemCountEx(window(), rows, 0);
+}
+
 void ListPane::RowsReordered() {
+  CatchUp();
   Guarded([&] {
     // A selected row that the user sees stays in sight; else the list stays where it was scrolled to.
     const auto before = CurrentRow();
@@ -140,36 +164,49 @@ void ListPane::RowsReordered() {
 }
 
 void ListPane::RowsChanged(RowRange rows) {
+  if (behindRows_) return;
   ListView_RedrawItems(window(), static_cast<int>(rows.first), static_cast<int>(rows.last) - 1);
 }
 
 void ListPane::ListSelectionChanged() {
-  if (following_) return;
+  if (following_ || behindRows_) return;
   Guarded([&] { FollowSelection(true); });
 }
 
 void ListPane::ListScrolled(const widgets::ListCorner& corner) {
+  CatchUp();
   Guarded([&] {
-    if (corner.row >= list_.Count()) return;
-    const int down = static_cast<int>(corner.row) - ListView_GetTopIndex(window());
-    const int height = PlaceOf(corner.row).bottom - PlaceOf(corner.row).top;
-    const int right = ScaleOf(window()).ToPixels(corner.left) - GetScrollPos(window(), SB_HORZ);
-    ListView_Scroll(window(), right, down * height);
+    if (corner.row < list_.Count()) ScrollTo(corner);
   });
 }
 
+void ListPane::ScrollTo(const widgets::ListCorner& corner) {
+  const int down = static_cast<int>(corner.row) - ListView_GetTopIndex(window());
+  const int right = ScaleOf(window()).ToPixels(corner.left) - GetScrollPos(window(), SB_HORZ);
+  if (down == 0 && right == 0) return;
+  const RECT row = PlaceOf(corner.row);
+  ListView_Scroll(window(), right, down * static_cast<int>(row.bottom - row.top));
+}
+
+// Other rows are seen from their beginning.
 widgets::ListCorner ListPane::CornerInSight() const {
+  if (behindRows_) return {};
   return {static_cast<std::size_t>(std::max(ListView_GetTopIndex(window()), 0)),
           ScaleOf(window()).ToTwips(GetScrollPos(window(), SB_HORZ))};
 }
 
 void ListPane::FollowHeaders() {
   const TemporaryValue following(following_, true);
-  const auto columns = static_cast<int>(list_.headers().size());
-  for (int surplus = Header_GetItemCount(header_) - 1; surplus >= columns; --surplus) {
-    ListView_DeleteColumn(window(), surplus);
+  const auto& headers = list_.headers();
+  for (std::size_t surplus = shownHeaders_.size(); surplus > headers.size(); --surplus) {
+    ListView_DeleteColumn(window(), static_cast<int>(surplus) - 1);
+    shownHeaders_.pop_back();
   }
-  for (std::size_t column = 0; column < list_.headers().size(); ++column) FollowHeader(column);
+  for (std::size_t column = 0; column < headers.size(); ++column) {
+    if (column >= shownHeaders_.size() || headers[column] != shownHeaders_[column]) FollowHeader(column);
+  }
+  shownHeaders_ = headers;
+  if (FillsTheList()) FollowWidths();
 }
 
 void ListPane::FollowHeader(std::size_t column) {
@@ -182,7 +219,7 @@ void ListPane::FollowHeader(std::size_t column) {
   shown.cx = WidthOf(column);
   shown.iSubItem = static_cast<int>(column);
   const auto number = static_cast<WPARAM>(column);
-  const bool exists = static_cast<int>(column) < Header_GetItemCount(header_);
+  const bool exists = column < shownHeaders_.size();
   SendMessageW(window(), exists ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, number, reinterpret_cast<LPARAM>(&shown));
   // The native list gives its header no images, and its first column no alignment.
   HDITEMW item{};
@@ -298,7 +335,10 @@ void ListPane::Describe(LVITEMW& item) const {
 }
 
 LRESULT ListPane::Draw(const NMLVCUSTOMDRAW& draw) {
-  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) {
+    focused_ = GetFocus() == window();
+    return CDRF_NOTIFYITEMDRAW;
+  }
   const auto row = static_cast<std::size_t>(draw.nmcd.dwItemSpec);
   if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT || row >= list_.Count()) return CDRF_DODEFAULT;
   painter_.Paint(draw.nmcd.hdc,
@@ -306,7 +346,7 @@ LRESULT ListPane::Draw(const NMLVCUSTOMDRAW& draw) {
                   .place = PlaceOf(row),
                   .selected = list_.Selection().Contains(row),
                   .current = CurrentRow() == row,
-                  .listHasFocus = GetFocus() == window()},
+                  .listHasFocus = focused_},
                  header_);
   return CDRF_SKIPDEFAULT;
 }
@@ -318,10 +358,10 @@ std::optional<LRESULT> ListPane::HearOfStates(UINT message, WPARAM wParam, LPARA
     case LVM_GETSELECTEDCOUNT:
       return static_cast<LRESULT>(list_.Selection().Count());
     case LVM_GETITEMSTATE:
-      return DefSubclassProc(window(), message, wParam, lParam) | StateOf(wParam, static_cast<UINT>(lParam));
+      return ear_->Pass(message, wParam, lParam) | StateOf(wParam, static_cast<UINT>(lParam));
     case LVM_GETITEMA:
     case LVM_GETITEMW: {
-      const LRESULT answer = DefSubclassProc(window(), message, wParam, lParam);
+      const LRESULT answer = ear_->Pass(message, wParam, lParam);
       auto& item = *reinterpret_cast<LVITEMW*>(lParam);
       if ((item.mask & LVIF_STATE) != 0) item.state |= StateOf(static_cast<std::size_t>(item.iItem), item.stateMask);
       return answer;
@@ -335,7 +375,7 @@ std::optional<LRESULT> ListPane::HearOfStates(UINT message, WPARAM wParam, LPARA
       SelectedFromOutside(static_cast<std::ptrdiff_t>(wParam), (item.state & LVIS_SELECTED) != 0);
       LVITEMW rest = item;
       rest.stateMask &= ~static_cast<UINT>(LVIS_SELECTED);
-      return DefSubclassProc(window(), message, wParam, reinterpret_cast<LPARAM>(&rest));
+      return ear_->Pass(message, wParam, reinterpret_cast<LPARAM>(&rest));
     }
     default:
       return std::nullopt;
@@ -371,22 +411,24 @@ void ListPane::HeaderChanged(const NMHEADERW& change) {
   int width = ListView_GetColumnWidth(window(), change.iItem);
   if (width < least) ListView_SetColumnWidth(window(), change.iItem, width = least);
   list_.SetHeaderWidth(static_cast<std::size_t>(change.iItem), scale.ToTwips(width));
+  shownHeaders_ = list_.headers();
 }
 
 // --- What the user did
 
 std::optional<LRESULT> ListPane::Hear(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (ConcernsContent(message)) CatchUp();
   switch (message) {
     case WM_DESTROY:
       Leave();
       return std::nullopt;
     case WM_SETFONT: {
-      const LRESULT answer = DefSubclassProc(window(), message, wParam, lParam);
+      const LRESULT answer = ear_->Pass(message, wParam, lParam);
       DpiChanged();
       return answer;
     }
     case WM_SIZE: {
-      const LRESULT answer = DefSubclassProc(window(), message, wParam, lParam);
+      const LRESULT answer = ear_->Pass(message, wParam, lParam);
       // Others keep their width, which may be the very one that brings a scroll bar just now.
       if (FillsTheList()) FollowWidths();
       return answer;
@@ -399,7 +441,7 @@ std::optional<LRESULT> ListPane::Hear(UINT message, WPARAM wParam, LPARAM lParam
       auto& header = *reinterpret_cast<NMHDR*>(lParam);
       if (tip_->Notify(header)) return 0;
       if (header.hwndFrom != header_) return std::nullopt;
-      const LRESULT answer = DefSubclassProc(window(), message, wParam, lParam);
+      const LRESULT answer = ear_->Pass(message, wParam, lParam);
       if (header.code == HDN_ITEMCHANGEDW) HeaderChanged(reinterpret_cast<const NMHEADERW&>(header));
       return answer;
     }
@@ -413,6 +455,7 @@ std::optional<LRESULT> ListPane::Hear(UINT message, WPARAM wParam, LPARAM lParam
 
 // The native list handles no press: some versions wait for the button to come up, in a loop of their own.
 std::optional<LRESULT> ListPane::HearMouse(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) tip_->Relay(message, wParam, lParam);
   switch (message) {
     case WM_LBUTTONDOWN:
       PressLeft(PointOf(lParam), (wParam & MK_CONTROL) != 0, (wParam & MK_SHIFT) != 0);
@@ -458,7 +501,7 @@ std::optional<LRESULT> ListPane::HearKeys(UINT message, WPARAM wParam, LPARAM lP
     case WM_GETDLGCODE: {
       // Enter is the list's in a dialog too.
       const bool enter = lParam != 0 && reinterpret_cast<const MSG*>(lParam)->wParam == VK_RETURN;
-      return DefSubclassProc(window(), message, wParam, lParam) | (enter ? DLGC_WANTMESSAGE : 0);
+      return ear_->Pass(message, wParam, lParam) | (enter ? DLGC_WANTMESSAGE : 0);
     }
     default:
       return std::nullopt;

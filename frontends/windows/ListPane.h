@@ -7,21 +7,23 @@
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 #include "control/Gestures.h"
 #include "widgets/ListView.h"
 #include "windows/CellTip.h"
+#include "windows/Ear.h"
 #include "windows/Handles.h"
 #include "windows/HeaderKeys.h"
 #include "windows/Icons.h"
 #include "windows/RowPainter.h"
 #include "windows/TypedLetters.h"
-#include "windows/Window.h"
 
 namespace quorvel::windows {
 
 // Which rows are selected is the list's to say; what the user selects is written to it as ranges. The native list holds
 // neither rows nor the selection: it asks for cells, and whoever asks it for the selection is answered by the list.
+// Other rows and headers are taken over when somebody looks: a request may change them several times.
 //
 // Its parent passes WM_NOTIFY of it on to `Notify`, and gives it its place, visibility and font as to any control.
 class ListPane final : public widgets::ListObserver {
@@ -56,7 +58,10 @@ class ListPane final : public widgets::ListObserver {
   void Leave();
 
   // What the list says.
+  void FallBehind();
+  void CatchUp();
   void FollowHeaders();
+  void FollowRows();
   void FollowHeader(std::size_t column);
   void FollowWidths();
   bool FillsTheList() const;
@@ -64,6 +69,7 @@ class ListPane final : public widgets::ListObserver {
   void FollowSelection(bool scroll);
   void ShowSelection();
   void GoTo(std::optional<std::size_t> row);
+  void ScrollTo(const widgets::ListCorner& corner);
 
   // What the native list says.
   std::optional<std::size_t> CurrentRow() const;
@@ -107,14 +113,19 @@ class ListPane final : public widgets::ListObserver {
   HWND header_ = nullptr;
   RowPainter painter_;
   std::optional<CellTip> tip_;
+  std::vector<widgets::ColumnHeader> shownHeaders_;
   std::optional<HeaderKeys> headerKeys_;
   std::optional<std::size_t> anchor_;  // where Shift begins
   Pressed pressed_ = Pressed::kNothing;
   bool left_ = false;
-  bool following_ = false;  // what happens now comes from the list, not from the user
+  bool behindRows_ = false;     // the list has others, and may have other headers
+  bool behindHeaders_ = false;  // the list has other headers
+  bool focused_ = false;        // while it paints
+  bool following_ = false;      // what happens now comes from the list, not from the user
   POINT menuPlace_{};
   TypedLetters typed_;
   std::optional<Ear> ear_;
+  std::optional<Ear> headerEar_;
 };
 
 }  // namespace quorvel::windows

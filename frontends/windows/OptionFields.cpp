@@ -7,6 +7,7 @@
 
 #include "windows/Contents.h"
 #include "windows/ItemLook.h"
+#include "windows/Window.h"
 
 namespace quorvel::windows {
 

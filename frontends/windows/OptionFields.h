@@ -9,9 +9,9 @@
 
 #include "control/ucProcessLog.h"
 #include "windows/DropList.h"
+#include "windows/Ear.h"
 #include "windows/Surface.h"
 #include "windows/TabOrder.h"
-#include "windows/Window.h"
 
 namespace quorvel::windows {
 

@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "widgets/Control.h"
+#include "windows/Ear.h"
 #include "windows/Surface.h"
-#include "windows/Window.h"
 
 namespace quorvel::windows {
 

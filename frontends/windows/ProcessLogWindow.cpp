@@ -7,6 +7,7 @@
 
 #include "windows/Contents.h"
 #include "windows/DetailWindow.h"
+#include "windows/Ear.h"
 #include "windows/Guard.h"
 #include "windows/Icons.h"
 #include "windows/ListPane.h"

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "windows/Window.h"
+
 namespace quorvel::windows {
 namespace {
 

@@ -7,8 +7,8 @@
 #include <functional>
 
 #include "widgets/TabStrip.h"
+#include "windows/Ear.h"
 #include "windows/Surface.h"
-#include "windows/Window.h"
 
 namespace quorvel::windows {
 

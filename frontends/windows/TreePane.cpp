@@ -10,6 +10,7 @@
 #include "windows/Guard.h"
 #include "windows/ItemLook.h"
 #include "windows/TemporaryValue.h"
+#include "windows/Window.h"
 
 namespace quorvel::windows {
 
@@ -74,7 +75,12 @@ void TreePane::DpiChanged() {
   InvalidateRect(window(), nullptr, TRUE);
 }
 
-HTREEITEM TreePane::ItemOf(NodeId node) const {
+HTREEITEM TreePane::ItemOf(NodeId node) {
+  CatchUp();
+  return Known(node);
+}
+
+HTREEITEM TreePane::Known(NodeId node) const {
   const auto number = static_cast<std::size_t>(node);
   return number < items_.size() ? items_[number] : nullptr;
 }
@@ -91,6 +97,12 @@ NodeId TreePane::NodeOf(HTREEITEM item) const {
 // --- What the tree says
 
 void TreePane::TreeReset() {
+  if (std::exchange(behind_, true)) return;
+  InvalidateRect(window(), nullptr, FALSE);
+}
+
+void TreePane::CatchUp() {
+  if (!std::exchange(behind_, false)) return;
   Guarded([&] {
     {
       const TemporaryValue following(following_, true);
@@ -104,9 +116,10 @@ void TreePane::TreeReset() {
 }
 
 void TreePane::NodesInserted(NodeId parent, std::size_t first, std::size_t count) {
+  if (behind_) return;
   Guarded([&] {
     // The children of what was never open are not wanted yet.
-    const HTREEITEM item = ItemOf(parent);
+    const HTREEITEM item = Known(parent);
     if (parent != NodeId::kNone && item == nullptr) return;
     {
       const TemporaryValue following(following_, true);
@@ -123,8 +136,9 @@ void TreePane::NodesInserted(NodeId parent, std::size_t first, std::size_t count
 }
 
 void TreePane::ChildrenRemoved(NodeId parent, std::span<const NodeId> /*children*/) {
+  if (behind_) return;
   Guarded([&] {
-    const HTREEITEM item = parent == NodeId::kNone ? TVI_ROOT : ItemOf(parent);
+    const HTREEITEM item = parent == NodeId::kNone ? TVI_ROOT : Known(parent);
     if (item == nullptr) return;
     {
       const TemporaryValue following(following_, true);
@@ -138,6 +152,7 @@ void TreePane::ChildrenRemoved(NodeId parent, std::span<const NodeId> /*children
 
 void TreePane::NodesChanged(std::span<const NodeId> nodes) {
   constexpr std::size_t kFew = 4;
+  if (behind_) return;
   Guarded([&] {
     std::optional<DrawnAfterwards> quietly;
     if (nodes.size() > kFew) quietly.emplace(window());
@@ -146,6 +161,7 @@ void TreePane::NodesChanged(std::span<const NodeId> nodes) {
 }
 
 void TreePane::NodeExpansionChanged(NodeId node) {
+  if (behind_) return;
   Guarded([&] {
     {
       const DrawnAfterwards quietly(window());
@@ -156,24 +172,29 @@ void TreePane::NodeExpansionChanged(NodeId node) {
 }
 
 void TreePane::TreeSelectionChanged() {
+  if (behind_) return;
   Guarded([&] { FollowSelection(); });
 }
 
 void TreePane::TreeScrolled(NodeId top) {
+  CatchUp();
   Guarded([&] {
     if (top != NodeId::kNone && !IsShown(top)) return;
-    const HTREEITEM item = top == NodeId::kNone ? TreeView_GetRoot(window()) : ItemOf(top);
+    const HTREEITEM item = top == NodeId::kNone ? TreeView_GetRoot(window()) : Known(top);
     if (item != nullptr) TreeView_SelectSetFirstVisible(window(), item);
   });
 }
 
+// A new tree is seen from its beginning.
 NodeId TreePane::TopNode() const {
+  if (behind_) return NodeId::kNone;
   const auto top = TreeView_GetFirstVisible(window());
   return top == TreeView_GetRoot(window()) ? NodeId::kNone : NodeOf(top);
 }
 
-bool TreePane::SeesNode(NodeId node) const {
-  const HTREEITEM item = ItemOf(node);
+bool TreePane::SeesNode(NodeId node) {
+  CatchUp();
+  const HTREEITEM item = Known(node);
   RECT line{};
   if (item == nullptr || !IsShown(node) || TreeView_GetItemRect(window(), item, &line, FALSE) == FALSE) return false;
   RECT seen{};
@@ -182,10 +203,10 @@ bool TreePane::SeesNode(NodeId node) const {
 }
 
 void TreePane::InsertChildren(NodeId parent, std::size_t first, std::size_t count) {
-  const HTREEITEM above = parent == NodeId::kNone ? TVI_ROOT : ItemOf(parent);
+  const HTREEITEM above = parent == NodeId::kNone ? TVI_ROOT : Known(parent);
   const auto children = tree_.Children(parent);
   // Behind the one before: the native tree would look for the last one each time.
-  HTREEITEM before = first == 0 ? TVI_FIRST : ItemOf(children[first - 1]);
+  HTREEITEM before = first == 0 ? TVI_FIRST : Known(children[first - 1]);
   for (const NodeId child : children.subspan(first, count)) before = InsertItem(above, before, child);
 }
 
@@ -210,10 +231,10 @@ HTREEITEM TreePane::InsertItem(HTREEITEM parent, HTREEITEM before, NodeId node) 
 }
 
 void TreePane::ChangeItem(NodeId node) {
-  if (ItemOf(node) == nullptr) return;
+  if (Known(node) == nullptr) return;
   TVITEMW changed{};
   changed.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_CHILDREN | TVIF_STATE;
-  changed.hItem = ItemOf(node);
+  changed.hItem = Known(node);
   changed.pszText = LPSTR_TEXTCALLBACKW;
   changed.cChildren = tree_.IsExpandable(node) ? 1 : 0;
   changed.stateMask = TVIS_BOLD;
@@ -239,7 +260,7 @@ void TreePane::Forget(HTREEITEM parent) {
 // The native tree opens nothing that has no children; it will when they come.
 void TreePane::FollowExpansion(NodeId node) {
   const TemporaryValue following(following_, true);
-  const HTREEITEM item = ItemOf(node);
+  const HTREEITEM item = Known(node);
   if (item == nullptr) return;
   if (!tree_.IsExpanded(node)) {
     // The native tree would select the node in place of one that it hides.
@@ -265,7 +286,7 @@ void TreePane::FollowOpen(std::span<const NodeId> nodes) {
 void TreePane::FollowSelection() {
   const TemporaryValue following(following_, true);
   const NodeId node = tree_.Selected();
-  const HTREEITEM item = node != NodeId::kNone && IsShown(node) ? ItemOf(node) : nullptr;
+  const HTREEITEM item = node != NodeId::kNone && IsShown(node) ? Known(node) : nullptr;
   if (item != TreeView_GetSelection(window())) TreeView_SelectItem(window(), item);
 }
 
@@ -310,7 +331,7 @@ LRESULT TreePane::Notify(NMHDR& header) {
 void TreePane::Describe(TVITEMW& item) {
   const auto node = static_cast<NodeId>(item.lParam);
   // Nodes that go may be gone already.
-  if (forgetting_ || ItemOf(node) == nullptr) {
+  if (forgetting_ || Known(node) == nullptr) {
     if ((item.mask & TVIF_TEXT) != 0) CopyText({}, item.pszText, item.cchTextMax);
     return;
   }
@@ -334,12 +355,13 @@ LRESULT TreePane::Draw(NMTVCUSTOMDRAW& draw) {
   switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
       painting_ = true;
+      focused_ = GetFocus() == window();
       return CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT;
     case CDDS_ITEMPREPAINT: {
       const auto node = static_cast<NodeId>(draw.nmcd.lItemlParam);
-      if (forgetting_ || ItemOf(node) == nullptr) return CDRF_DODEFAULT;
+      if (forgetting_ || Known(node) == nullptr) return CDRF_DODEFAULT;
       const bool selected = (draw.nmcd.uItemState & CDIS_SELECTED) != 0;
-      const ItemColours colours = ColoursOf(tree_.ForeColour(node), selected, GetFocus() == window());
+      const ItemColours colours = ColoursOf(tree_.ForeColour(node), selected, focused_);
       draw.clrText = colours.text;
       draw.clrTextBk = colours.background;
       return CDRF_DODEFAULT;
@@ -367,6 +389,7 @@ void TreePane::SelectedFromOutside(const NMTREEVIEWW& change) {
 // --- What the user did
 
 std::optional<LRESULT> TreePane::Hear(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (ConcernsContent(message)) CatchUp();
   switch (message) {
     case WM_DESTROY:
       Leave();
@@ -406,15 +429,15 @@ std::optional<LRESULT> TreePane::Hear(UINT message, WPARAM wParam, LPARAM lParam
     case WM_SETFOCUS:
       return TakeFocus(wParam);
     case WM_SETFONT: {
-      const LRESULT answer = DefSubclassProc(window(), message, wParam, lParam);
+      const LRESULT answer = ear_->Pass(message, wParam, lParam);
       DpiChanged();
       return answer;
     }
     case kClickNode:
-      if (const auto node = static_cast<NodeId>(wParam); ItemOf(node) != nullptr) Click(node);
+      if (const auto node = static_cast<NodeId>(wParam); Known(node) != nullptr) Click(node);
       return 0;
     case kOpenNode:
-      if (const auto node = static_cast<NodeId>(wParam); ItemOf(node) != nullptr) Open(node, lParam != FALSE);
+      if (const auto node = static_cast<NodeId>(wParam); Known(node) != nullptr) Open(node, lParam != FALSE);
       return 0;
     default:
       return std::nullopt;
@@ -424,7 +447,7 @@ std::optional<LRESULT> TreePane::Hear(UINT message, WPARAM wParam, LPARAM lParam
 // The native tree selects the first node when it gets the focus without having one selected, which nobody asked for.
 LRESULT TreePane::TakeFocus(WPARAM from) {
   const TemporaryValue following(following_, true);
-  const LRESULT answer = DefSubclassProc(window(), WM_SETFOCUS, from, 0);
+  const LRESULT answer = ear_->Pass(WM_SETFOCUS, from, 0);
   FollowSelection();
   return answer;
 }
@@ -510,7 +533,7 @@ void TreePane::MoveByKey(WPARAM key, LPARAM lParam) {
   }
   {
     const TemporaryValue gesture(inGesture_, true);
-    DefSubclassProc(window(), WM_KEYDOWN, key, lParam);
+    ear_->Pass(WM_KEYDOWN, key, lParam);
   }
   const auto now = TreeView_GetSelection(window());
   if (now != before) Click(NodeOf(now));
@@ -545,8 +568,8 @@ void TreePane::OpenLoaded(NodeId top) {
   while (!toOpen.empty()) {
     const NodeId node = toOpen.back();
     toOpen.pop_back();
-    if (ItemOf(node) != nullptr) Open(node, true);
-    if (ItemOf(node) == nullptr || !tree_.IsExpanded(node)) continue;
+    if (Known(node) != nullptr) Open(node, true);
+    if (Known(node) == nullptr || !tree_.IsExpanded(node)) continue;
     for (const NodeId child : tree_.Children(node)) {
       if (tree_.ChildCount(child) > 0) toOpen.push_back(child);
     }

@@ -13,15 +13,16 @@
 
 #include "control/Gestures.h"
 #include "widgets/TreeView.h"
+#include "windows/Ear.h"
 #include "windows/Handles.h"
 #include "windows/Icons.h"
 #include "windows/TypedLetters.h"
-#include "windows/Window.h"
 
 namespace quorvel::windows {
 
 // Which nodes are open and which is selected is the tree's to say; what is seen follows it. The native tree knows the
 // children of nodes that are or were open, each by its NodeId alone: texts and icons are asked for when they are drawn.
+// A tree that is new as a whole is taken over when somebody looks: a request may empty and fill it several times.
 //
 // Its parent passes WM_NOTIFY of it on to `Notify`, and gives it its place, visibility and font as to any control.
 class TreePane final : public widgets::TreeObserver {
@@ -41,7 +42,7 @@ class TreePane final : public widgets::TreeObserver {
   void DpiChanged();
 
   // The native item of a node, null while no item stands for it.
-  HTREEITEM ItemOf(widgets::NodeId node) const;
+  HTREEITEM ItemOf(widgets::NodeId node);
   // kNone for null.
   widgets::NodeId NodeOf(HTREEITEM item) const;
 
@@ -53,13 +54,15 @@ class TreePane final : public widgets::TreeObserver {
   void TreeSelectionChanged() override;
   void TreeScrolled(widgets::NodeId top) override;
   widgets::NodeId TopNode() const override;
-  bool SeesNode(widgets::NodeId node) const override;
+  bool SeesNode(widgets::NodeId node) override;
 
  private:
   // The window ends: the tree is not heard any more.
   void Leave();
 
   // What the tree says.
+  void CatchUp();
+  HTREEITEM Known(widgets::NodeId node) const;
   void InsertChildren(widgets::NodeId parent, std::size_t first, std::size_t count);
   HTREEITEM InsertItem(HTREEITEM parent, HTREEITEM before, widgets::NodeId node);
   void ChangeItem(widgets::NodeId node);
@@ -99,10 +102,12 @@ class TreePane final : public widgets::TreeObserver {
   UniqueWindow window_;
   std::vector<HTREEITEM> items_;  // by NodeId
   bool left_ = false;
+  bool behind_ = false;      // the tree is another one
   bool following_ = false;   // what happens now comes from the tree, not from the user
   bool forgetting_ = false;  // items go whose nodes are gone
   bool inGesture_ = false;   // the end of a gesture says which node was clicked
   bool painting_ = false;
+  bool focused_ = false;  // while it paints
   POINT menuPlace_{};
   TypedLetters typed_;
   std::optional<Ear> ear_;

@@ -69,24 +69,4 @@ LRESULT CALLBACK Window::Procedure(HWND window, UINT message, WPARAM wParam, LPA
   return handled ? *handled : DefWindowProcW(window, message, wParam, lParam);
 }
 
-Ear::Ear(HWND window, Hear hear) : window_(window), hear_(std::make_shared<Hear>(std::move(hear))) {
-  SetWindowSubclass(window_, Procedure, reinterpret_cast<UINT_PTR>(this), reinterpret_cast<DWORD_PTR>(this));
-}
-
-Ear::~Ear() {
-  if (window_ != nullptr) RemoveWindowSubclass(window_, Procedure, reinterpret_cast<UINT_PTR>(this));
-}
-
-LRESULT CALLBACK Ear::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR ear) {
-  auto& self = *reinterpret_cast<Ear*>(ear);
-  if (message == WM_NCDESTROY) {
-    RemoveWindowSubclass(window, Procedure, id);
-    self.window_ = nullptr;
-    return DefSubclassProc(window, message, wParam, lParam);
-  }
-  const std::shared_ptr<Hear> hear = self.hear_;  // what is heard may end the ear
-  const auto handled = GuardedOr(std::optional<LRESULT>(), [&] { return (*hear)(message, wParam, lParam); });
-  return handled ? *handled : DefSubclassProc(window, message, wParam, lParam);
-}
-
 }  // namespace quorvel::windows

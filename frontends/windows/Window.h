@@ -1,10 +1,8 @@
-// Windows of this front end's own making, and ears for native ones.
+// Windows of this front end's own making.
 #pragma once
 
 #include <windows.h>
 
-#include <functional>
-#include <memory>
 #include <optional>
 
 namespace quorvel::windows {
@@ -45,24 +43,6 @@ class Window {
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
   HWND window_ = nullptr;
-};
-
-// Hears the messages of a native control before it does, as long as both live.
-class Ear {
- public:
-  // Nothing: the message is the control's to handle.
-  using Hear = std::function<std::optional<LRESULT>(UINT message, WPARAM wParam, LPARAM lParam)>;
-  Ear(HWND window, Hear hear);
-  ~Ear();
-  Ear(const Ear&) = delete;
-  Ear& operator=(const Ear&) = delete;
-
- private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                    DWORD_PTR ear);
-
-  HWND window_;
-  std::shared_ptr<Hear> hear_;
 };
 
 }  // namespace quorvel::windows

@@ -128,7 +128,7 @@ std::vector<SeenNode> WindowsViewer::Nodes() const {
 }
 
 void WindowsViewer::AppendChildren(NodeId parent, std::size_t depth, std::vector<SeenNode>& seen) const {
-  const windows::TreePane& pane = window_.tree();
+  windows::TreePane& pane = window_.tree();
   const HWND tree = pane.window();
   HTREEITEM item =
       parent == NodeId::kNone ? NextItem(tree, TVGN_ROOT) : NextItem(tree, TVGN_CHILD, pane.ItemOf(parent));

@@ -110,6 +110,8 @@ void FillStateList(widgets::ComboBox& cboState, std::string_view tabCaption) {
   for (const std::string_view text : states.texts) {
     items.push_back({std::string(text), static_cast<std::int32_t>(*StateFilterOf(text))});
   }
+  // The states that are there already need not be drawn again.
+  if (cboState.selected() && items == cboState.items()) return;
   cboState.SetItems(std::move(items));
   if (!util::SelectStringIn(cboState, before)) util::SelectStringIn(cboState, CounterpartOf(states, before));
 }

@@ -45,7 +45,7 @@ class TreeObserver {
   // The first node in sight; kNone while the tree is not scrolled.
   virtual NodeId TopNode() const = 0;
   // Whether a node's line is seen; one that draws nothing hides nothing.
-  virtual bool SeesNode(NodeId /*node*/) const { return true; }
+  virtual bool SeesNode(NodeId /*node*/) { return true; }
 };
 
 // Children, parents, rows and keys are found in constant time. Keys need not be unique: every node stays, and a look-up

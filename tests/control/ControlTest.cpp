@@ -590,7 +590,7 @@ class ThreeLines final : public widgets::TreeObserver {
   void TreeSelectionChanged() override {}
   void TreeScrolled(NodeId top) override { top_ = top; }
   NodeId TopNode() const override { return top_; }
-  bool SeesNode(NodeId node) const override {
+  bool SeesNode(NodeId node) override {
     NodeId line = top_ == NodeId::kNone ? tree_.Child(NodeId::kNone, 0) : top_;
     for (int lines = 0; lines < 3 && line != NodeId::kNone; ++lines, line = tree_.NextLine(line)) {
       if (line == node) return true;
