@@ -284,6 +284,7 @@ void TreePane::FollowOpen(std::span<const NodeId> nodes) {
 // A node that a closed one hides is shown nowhere: to select it natively would open what stands above it, and whether
 // that is open is not for the view to say.
 void TreePane::FollowSelection() {
+  CatchUp();  // items of a tree that is gone must not be selected
   const TemporaryValue following(following_, true);
   const NodeId node = tree_.Selected();
   const HTREEITEM item = node != NodeId::kNone && IsShown(node) ? Known(node) : nullptr;
@@ -328,10 +329,14 @@ LRESULT TreePane::Notify(NMHDR& header) {
   });
 }
 
+// The native tree may ask for a node while its items go, or when it is resized before it was followed.
+bool TreePane::IsGone(NodeId node) const {
+  return forgetting_ || behind_ || Known(node) == nullptr;
+}
+
 void TreePane::Describe(TVITEMW& item) {
   const auto node = static_cast<NodeId>(item.lParam);
-  // Nodes that go may be gone already.
-  if (forgetting_ || Known(node) == nullptr) {
+  if (IsGone(node)) {
     if ((item.mask & TVIF_TEXT) != 0) CopyText({}, item.pszText, item.cchTextMax);
     return;
   }
@@ -359,7 +364,7 @@ LRESULT TreePane::Draw(NMTVCUSTOMDRAW& draw) {
       return CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT;
     case CDDS_ITEMPREPAINT: {
       const auto node = static_cast<NodeId>(draw.nmcd.lItemlParam);
-      if (forgetting_ || Known(node) == nullptr) return CDRF_DODEFAULT;
+      if (IsGone(node)) return CDRF_DODEFAULT;
       const bool selected = (draw.nmcd.uItemState & CDIS_SELECTED) != 0;
       const ItemColours colours = ColoursOf(tree_.ForeColour(node), selected, focused_);
       draw.clrText = colours.text;
@@ -568,8 +573,8 @@ void TreePane::OpenLoaded(NodeId top) {
   while (!toOpen.empty()) {
     const NodeId node = toOpen.back();
     toOpen.pop_back();
-    if (Known(node) != nullptr) Open(node, true);
-    if (Known(node) == nullptr || !tree_.IsExpanded(node)) continue;
+    if (ItemOf(node) != nullptr) Open(node, true);
+    if (ItemOf(node) == nullptr || !tree_.IsExpanded(node)) continue;
     for (const NodeId child : tree_.Children(node)) {
       if (tree_.ChildCount(child) > 0) toOpen.push_back(child);
     }

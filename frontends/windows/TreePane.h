@@ -74,6 +74,7 @@ class TreePane final : public widgets::TreeObserver {
   bool IsBelow(widgets::NodeId node, widgets::NodeId above) const;
 
   // What the native tree asks and tells.
+  bool IsGone(widgets::NodeId node) const;
   void Describe(TVITEMW& item);
   int ImageOf(std::string_view key, std::string_view otherwise);
   LRESULT Draw(NMTVCUSTOMDRAW& draw);

@@ -3,13 +3,13 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
 
+#include "datasource/CopyBytes.h"
 #include "platform/GrowingMemory.h"
 
 namespace quorvel::datasource {
@@ -45,7 +45,8 @@ class GrowingArray {
   // `values` must not lie in this array.
   void append(const T* values, std::size_t count) {
     if (count > capacity_ - size_) Resize(AtLeast(size_ + count));
-    if (count > 0) std::memcpy(values_.get() + size_, values, count * sizeof(T));
+    const auto* const from = reinterpret_cast<const char*>(values);
+    CopyBytes(reinterpret_cast<char*>(values_.get() + size_), from, count * sizeof(T));
     size_ += count;
   }
   void reserve(std::size_t count) {
