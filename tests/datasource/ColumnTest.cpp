@@ -97,6 +97,26 @@ TEST(ColumnTest, CopiesShareTheBlockAndOutliveItsMaker) {
   EXPECT_EQ(TextColumn().size(), 0U);
 }
 
+TEST(GrowingArrayTest, HoldsItsValuesHoweverItGrows) {
+  // Larger than what is kept with small blocks, and twice: the second one may get the memory of the first.
+  for (const char mark : {'a', 'b'}) {
+    GrowingArray<char> bytes;
+    std::string expected;
+    for (std::size_t length = 0; expected.size() < std::size_t{5} << 20U; length = (length + 1) % 200) {
+      const std::string text(length, static_cast<char>(mark + length % 20));
+      bytes.append(text.data(), text.size());
+      bytes.push_back('.');
+      expected += text + '.';
+    }
+    const auto holds = [&] { return std::string_view(bytes.data(), bytes.size()) == expected; };
+    EXPECT_TRUE(holds());
+    bytes.shrink_to_fit();
+    EXPECT_TRUE(holds());
+    bytes.reserve(4 * bytes.size());
+    EXPECT_TRUE(holds());
+  }
+}
+
 TEST(Utf8Test, EachByteThatDoesNotBelongIsReplaced) {
   struct Case {
     std::string text, shown;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 #include <string>
 #include <utility>
@@ -46,6 +47,7 @@ class WindowsTreePaneTest : public testing::Test {
                 [this](NodeId node) {
                   heard += "click " + std::string(tree.Key(node)) + " ";
                   tree.Select(node);
+                  if (onClick) onClick();
                 },
             .mouseUp =
                 [this](MouseButton /*button*/, NodeId node) {
@@ -121,6 +123,7 @@ class WindowsTreePaneTest : public testing::Test {
   widgets::TreeView tree{"tree"};
   std::string heard;
   bool refuses = false;
+  std::function<void()> onClick;
   TreePane pane{tree, Gestures(), host.window(), host.icons};
 };
 
@@ -182,6 +185,35 @@ TEST_F(WindowsTreePaneTest, HoldsItemsForOpenNodesAlone) {
   EXPECT_FALSE(tree.IsInSight(tree.Find("499")));
   tree.ScrollTo(NodeId::kNone);
   EXPECT_EQ(tree.Top(), NodeId::kNone);
+}
+
+TEST_F(WindowsTreePaneTest, TakesANewTreeOverOnceWhenSomebodyLooks) {
+  AddRoots();
+  int inserted = 0;
+  const Ear counter(pane.window(), [&](UINT message, WPARAM, LPARAM) {
+    inserted += message == TVM_INSERTITEMW ? 1 : 0;
+    return std::optional<LRESULT>();
+  });
+  for (int times = 0; times < 3; ++times) {
+    tree.Clear();
+    tree.InBatch([&] { AddRoots(); });
+  }
+  tree.Select(tree.Find("b"));
+  EXPECT_EQ(inserted, 0);
+  test::PumpMessages();
+  EXPECT_EQ(Seen(), "+a\n+b*\n+c\n");
+  EXPECT_EQ(inserted, 3);
+  // A click that makes the tree anew: what was clicked is another item then.
+  onClick = [this] {
+    tree.Clear();
+    tree.InBatch([&] {
+      tree.Add(NodeId::kNone, "z", "z", "Process");
+      AddRoots();
+    });
+    tree.Select(tree.Find("c"));
+  };
+  LeftClick(pane.window(), PlaceOf("a"));
+  EXPECT_EQ(Seen(), " z\n+a\n+b\n+c*\n");
 }
 
 TEST_F(WindowsTreePaneTest, LoadsWhatIsOpenedByKeyExpanderAndDoubleClick) {
