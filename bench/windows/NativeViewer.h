@@ -11,9 +11,9 @@
 #include "BenchPlatform.h"
 #include "control/ucProcessLog.h"
 #include "hub/RecordHub.h"
+#include "windows/Ear.h"
 #include "windows/Handles.h"
 #include "windows/ProcessLogWindow.h"
-#include "windows/Ear.h"
 
 namespace quorvel::bench {
 

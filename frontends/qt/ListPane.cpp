@@ -24,12 +24,6 @@
 namespace quorvel::qt {
 namespace {
 
-// Calls a handler that may be missing.
-template <class Handler, class... Values>
-void Tell(const Handler& handler, Values... values) {
-  if (handler) handler(values...);
-}
-
 // A key alone that goes to another row.
 bool IsMove(const QKeyEvent& key) {
   constexpr int kMoves[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};

@@ -6,16 +6,9 @@
 #include <utility>
 
 #include "windows/Convert.h"
+#include "windows/Input.h"
 
 namespace quorvel::windows {
-namespace {
-
-bool IsDown(int key) {
-  return GetKeyState(key) < 0;
-}
-
-}  // namespace
-
 HeaderKeys::HeaderKeys(HWND header, HWND list, std::function<void(int)> click)
     : header_(header),
       list_(list),

@@ -10,6 +10,7 @@
 #include "windows/Ear.h"
 #include "windows/Guard.h"
 #include "windows/Icons.h"
+#include "windows/Input.h"
 #include "windows/ListPane.h"
 #include "windows/OptionFields.h"
 #include "windows/Parts.h"
@@ -31,10 +32,6 @@ constexpr UINT_PTR kScrollTimer = 1;
 // Systems before Windows 8.1 know of one resolution alone.
 constexpr UINT kDpiChanged = 0x02E0;
 constexpr UINT kDpiChangedAfterParent = 0x02E3;
-
-bool IsDown(int key) {
-  return GetKeyState(key) < 0;
-}
 
 }  // namespace
 

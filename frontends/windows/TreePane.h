@@ -57,6 +57,11 @@ class TreePane final : public widgets::TreeObserver {
   bool SeesNode(widgets::NodeId node) override;
 
  private:
+  // Posted to the native tree itself, for what a program has done to it, such as a screen reader: nodes must not come
+  // and go under the hands of the control that is just telling of one.
+  static constexpr UINT kClickNode = WM_APP + 1;
+  static constexpr UINT kOpenNode = WM_APP + 2;
+
   // The window ends: the tree is not heard any more.
   void Leave();
 

@@ -1,7 +1,6 @@
 #include "scenario_windows/WindowsViewer.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "scenario/Script.h"
@@ -114,8 +113,10 @@ SeenControl WindowsViewer::Look(const widgets::Control& control) const {
 std::vector<SeenTab> WindowsViewer::Tabs() const {
   const HWND tabs = Of(c_.sstProcessLog);
   const LRESULT current = Send(tabs, TCM_GETCURSEL);
+  const auto count = static_cast<int>(Send(tabs, TCM_GETITEMCOUNT));
   std::vector<SeenTab> seen;
-  for (int tab = 0; tab < Send(tabs, TCM_GETITEMCOUNT); ++tab) {
+  seen.reserve(static_cast<std::size_t>(count));
+  for (int tab = 0; tab < count; ++tab) {
     seen.push_back({TabCaption(tabs, tab), !IsTabGray(tabs, tab), tab == current});
   }
   return seen;
@@ -288,9 +289,11 @@ void WindowsViewer::Pick(widgets::DateTimePicker& picker, DateValue value) {
 void WindowsViewer::TypeParts(HWND edit, std::string_view text, char separator) {
   const HWND before = SetFocus(edit);
   input_.Click(edit, {2 * kIntoText, ClientOf(edit).bottom / 2});
-  for (const auto part : std::views::split(text, separator)) {
-    input_.PostText(edit, windows::ToWide({part.begin(), part.end()}));
+  for (std::size_t begin = 0; begin < text.size();) {
+    const std::size_t end = std::min(text.find(separator, begin), text.size());
+    input_.PostText(edit, windows::ToWide(text.substr(begin, end - begin)));
     input_.PostKey(edit, VK_RIGHT);
+    begin = end + 1;
   }
   pump_.Settle();
   SetFocus(before);
@@ -460,7 +463,7 @@ void WindowsViewer::ScrollTree(NodeId top) {
 
 void WindowsViewer::ScrollList(std::size_t top) {
   const RECT row = RowPlace(ListWindow(), top);
-  const auto rows = static_cast<LONG>(top) - static_cast<LONG>(Send(ListWindow(), LVM_GETTOPINDEX));
+  const LPARAM rows = static_cast<LPARAM>(top) - static_cast<LPARAM>(Send(ListWindow(), LVM_GETTOPINDEX));
   Send(ListWindow(), LVM_SCROLL, 0, rows * (row.bottom - row.top));
   pump_.Settle();
 }

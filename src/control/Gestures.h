@@ -34,4 +34,10 @@ struct ListGestures {
   std::function<void()> selectAll = {};  // the same
 };
 
+// Calls a handler that may be missing.
+template <class Handler, class... Values>
+void Tell(const Handler& handler, Values... values) {
+  if (handler) handler(values...);
+}
+
 }  // namespace quorvel
