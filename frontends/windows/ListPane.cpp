@@ -109,11 +109,13 @@ void ListPane::CatchUp() {
   Guarded([&] {
     {
       const TemporaryValue following(following_, true);
+      const TemporaryValue filling(filling_, true);
       std::optional<DrawnAfterwards> quietly;
       if (list_.headers() != shownHeaders_) quietly.emplace(window());
       FollowHeaders();
       if (rows) FollowRows();
     }
+    InvalidateRect(window(), nullptr, TRUE);
     if (rows) FollowSelection(true);
   });
 }

@@ -25,6 +25,9 @@ std::optional<LRESULT> ListPane::Hear(UINT message, WPARAM wParam, LPARAM lParam
     case WM_DESTROY:
       Leave();
       return std::nullopt;
+    case WM_ERASEBKGND:
+      // Scroll bars that come and go would have the list erased each time.
+      return filling_ ? std::optional<LRESULT>(TRUE) : std::nullopt;
     case WM_SETFONT: {
       const LRESULT answer = ear_->Pass(message, wParam, lParam);
       DpiChanged();

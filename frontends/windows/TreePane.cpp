@@ -85,11 +85,13 @@ void TreePane::CatchUp() {
   Guarded([&] {
     {
       const TemporaryValue following(following_, true);
+      const TemporaryValue filling(filling_, true);
       const DrawnAfterwards quietly(window());
       Forget(TVI_ROOT);
       InsertChildren(NodeId::kNone, 0, tree_.ChildCount(NodeId::kNone));
       FollowOpen(tree_.Children(NodeId::kNone));
     }
+    InvalidateRect(window(), nullptr, TRUE);
     FollowSelection();
   });
 }

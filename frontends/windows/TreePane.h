@@ -109,6 +109,7 @@ class TreePane final : public widgets::TreeObserver {
   std::vector<HTREEITEM> items_;  // by NodeId
   bool left_ = false;
   bool behind_ = false;      // the tree is another one
+  bool filling_ = false;     // it is erased once, afterwards
   bool following_ = false;   // what happens now comes from the tree, not from the user
   bool forgetting_ = false;  // items go whose nodes are gone
   bool inGesture_ = false;   // the end of a gesture says which node was clicked

@@ -63,6 +63,9 @@ std::optional<LRESULT> TreePane::Hear(UINT message, WPARAM wParam, LPARAM lParam
       return 0;
     case WM_SETFOCUS:
       return TakeFocus(wParam);
+    case WM_ERASEBKGND:
+      // Scroll bars that come and go would have the tree erased each time.
+      return filling_ ? std::optional<LRESULT>(TRUE) : std::nullopt;
     case WM_SETFONT: {
       const LRESULT answer = ear_->Pass(message, wParam, lParam);
       DpiChanged();

@@ -99,11 +99,12 @@ TEST(ColumnTest, CopiesShareTheBlockAndOutliveItsMaker) {
 
 TEST(GrowingArrayTest, HoldsItsValuesHoweverItGrows) {
   // Larger than what is kept with small blocks, and twice: the second one may get the memory of the first.
-  for (const char mark : {'a', 'b'}) {
+  constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz";
+  for (const std::size_t first : {0U, 5U}) {
     GrowingArray<char> bytes;
     std::string expected;
     for (std::size_t length = 0; expected.size() < std::size_t{5} << 20U; length = (length + 1) % 200) {
-      const std::string text(length, static_cast<char>(mark + length % 20));
+      const std::string text(length, kLetters[(first + length) % kLetters.size()]);
       bytes.append(text.data(), text.size());
       bytes.push_back('.');
       expected += text + '.';
