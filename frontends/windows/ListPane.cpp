@@ -1,8 +1,6 @@
 #include "windows/ListPane.h"
 
 #include <algorithm>
-#include <iterator>
-#include <string>
 #include <utility>
 
 #include "windows/Guard.h"
@@ -109,13 +107,11 @@ void ListPane::CatchUp() {
   Guarded([&] {
     {
       const TemporaryValue following(following_, true);
-      const TemporaryValue filling(filling_, true);
       std::optional<DrawnAfterwards> quietly;
       if (list_.headers() != shownHeaders_) quietly.emplace(window());
       FollowHeaders();
       if (rows) FollowRows();
     }
-    InvalidateRect(window(), nullptr, TRUE);
     if (rows) FollowSelection(true);
   });
 }

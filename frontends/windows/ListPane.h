@@ -121,7 +121,6 @@ class ListPane final : public widgets::ListObserver {
   bool behindRows_ = false;     // the list has others, and may have other headers
   bool behindHeaders_ = false;  // the list has other headers
   bool focused_ = false;        // while it paints
-  bool filling_ = false;        // it is erased once, afterwards
   bool following_ = false;      // what happens now comes from the list, not from the user
   POINT menuPlace_{};
   TypedLetters typed_;

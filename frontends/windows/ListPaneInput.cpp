@@ -1,6 +1,5 @@
 // What the user does on the list.
 #include <algorithm>
-#include <string>
 #include <utility>
 
 #include "windows/Input.h"
@@ -25,9 +24,6 @@ std::optional<LRESULT> ListPane::Hear(UINT message, WPARAM wParam, LPARAM lParam
     case WM_DESTROY:
       Leave();
       return std::nullopt;
-    case WM_ERASEBKGND:
-      // Scroll bars that come and go would have the list erased each time.
-      return filling_ ? std::optional<LRESULT>(TRUE) : std::nullopt;
     case WM_SETFONT: {
       const LRESULT answer = ear_->Pass(message, wParam, lParam);
       DpiChanged();
@@ -61,6 +57,7 @@ std::optional<LRESULT> ListPane::Hear(UINT message, WPARAM wParam, LPARAM lParam
 
 // The native list handles no press: some versions wait for the button to come up, in a loop of their own.
 std::optional<LRESULT> ListPane::HearMouse(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_MOUSEMOVE) PointAt(PointOf(lParam));
   if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) tip_->Relay(message, wParam, lParam);
   switch (message) {
     case WM_LBUTTONDOWN:
@@ -80,7 +77,6 @@ std::optional<LRESULT> ListPane::HearMouse(UINT message, WPARAM wParam, LPARAM l
       ReleaseLeft();
       return 0;
     case WM_MOUSEMOVE:
-      PointAt(PointOf(lParam));
       if (GetCapture() != window()) return std::nullopt;
       DragOver(PointOf(lParam));
       return 0;

@@ -1,7 +1,6 @@
 #include "windows/TreePane.h"
 
 #include <algorithm>
-#include <iterator>
 #include <span>
 #include <utility>
 

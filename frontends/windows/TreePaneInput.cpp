@@ -1,7 +1,6 @@
 // What the user does on the tree.
 #include <algorithm>
 #include <iterator>
-#include <string>
 #include <vector>
 
 #include "windows/Input.h"

@@ -45,7 +45,7 @@ class SpareBlocks {
   SpareBlocks(const SpareBlocks&) = delete;
   SpareBlocks& operator=(const SpareBlocks&) = delete;
 
-  static SpareBlocks& OfProcess() {
+  static SpareBlocks& OfModule() {
     static SpareBlocks spares;
     return spares;
   }
@@ -89,7 +89,7 @@ Reservation* ReservationOf(void* block) {
 // As many addresses as there are, where they are scarce.
 Reservation* Reserve(std::size_t bytes) {
   const std::size_t committed = bytes + sizeof(Reservation);
-  if (Reservation* const spare = SpareBlocks::OfProcess().Take(committed)) return spare;
+  if (Reservation* const spare = SpareBlocks::OfModule().Take(committed)) return spare;
   constexpr std::size_t kMostTimes = kScarceAddresses ? 16 : 256;
   for (std::size_t times = kMostTimes; times > 0; times /= 2) {
     if (committed > static_cast<std::size_t>(-1) / times) continue;
@@ -147,7 +147,7 @@ void* ResizeMemory(void* block, std::size_t bytesBefore, std::size_t bytes) noex
 void FreeMemory(void* block, std::size_t bytes) noexcept {
   if (bytes < kLarge) return std::free(block);
   Reservation* const reserved = ReservationOf(block);
-  if (!SpareBlocks::OfProcess().Keep(reserved)) Release(reserved);
+  if (!SpareBlocks::OfModule().Keep(reserved)) Release(reserved);
 }
 #else
 // Where the system moves pages instead of bytes, nothing else is needed.

@@ -121,6 +121,7 @@ TEST_F(WindowsListPaneTest, ShowsAMillionRowsWithoutAnItem) {
   });
   const auto rows = Fill(1'000'000);
   EXPECT_EQ(ListView_GetItemCount(pane.window()), 1'000'000);
+  EXPECT_FALSE(test::Erases(pane.window())) << "it paints all of itself at once";
   EXPECT_LT(messages, 2000) << "a few for a row on the screen, none for others";
   const std::size_t cellsOnScreen = 3 * 40;
   EXPECT_GT(rows->asked, 0U);
@@ -341,6 +342,33 @@ TEST_F(WindowsListPaneTest, SaysAllOfACellThatIsCutOff) {
   EXPECT_EQ(painter.TextIfCut(0, 0, pane.header()), L"");
   EXPECT_EQ(painter.TextIfCut(1, 0, pane.header()), L"one\ntwo");
   EXPECT_EQ(painter.TextIfCut(2, 0, pane.header()).substr(0, 11), L"longer than");
+}
+
+TEST_F(WindowsListPaneTest, ShowsTheTipOfACellThatThePointerRestsOn) {
+  const auto visibleTip = [&] {
+    for (HWND tip = nullptr; (tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr;) {
+      if (GetWindow(tip, GW_OWNER) == host.window() && IsWindowVisible(tip) != FALSE) return true;
+    }
+    return false;
+  };
+  list.SetHeaders({{.caption = "Text", .width = 1500}});
+  list.SetRows(
+      std::make_shared<TextRows>(std::vector<TextRows::Row>{{"longer than any column of a hundred pixels can show"}}));
+  UpdateWindow(pane.window());
+  RECT row{};
+  ListView_GetItemRect(pane.window(), 0, &row, LVIR_BOUNDS);
+  POINT place{row.left + 20, (row.top + row.bottom) / 2};
+  ClientToScreen(pane.window(), &place);
+  POINT pointer{};
+  GetCursorPos(&pointer);
+  SetCursorPos(place.x, place.y);
+  const DWORD begin = GetTickCount();
+  while (!visibleTip() && GetTickCount() - begin < 5000) {
+    test::PumpMessages();
+    Sleep(10);
+  }
+  EXPECT_TRUE(visibleTip());
+  SetCursorPos(pointer.x, pointer.y);
 }
 
 TEST_F(WindowsListPaneTest, ItsHeaderIsUsedByKey) {

@@ -10,6 +10,7 @@
 
 #include "platform/windows/WideText.h"
 #include "windows/Convert.h"
+#include "windows/Handles.h"
 #include "windows/Icons.h"
 #include "windows/Window.h"
 
@@ -67,6 +68,22 @@ inline void PressKey(HWND window, WPARAM key) {
 }
 inline void TypeText(HWND window, const wchar_t* text) {
   for (; *text != 0; ++text) SendMessageW(window, WM_CHAR, static_cast<WPARAM>(*text), 1);
+}
+
+// Whether the window, asked to erase its background now, does it.
+inline bool Erases(HWND window) {
+  constexpr COLORREF kBefore = RGB(1, 2, 3);
+  constexpr int kSide = 8;
+  const windows::ScreenDc screen;
+  const HDC dc = CreateCompatibleDC(screen.get());
+  const windows::UniqueBitmap bitmap(CreateCompatibleBitmap(screen.get(), kSide, kSide));
+  const HGDIOBJ before = SelectObject(dc, bitmap.get());
+  SetPixel(dc, kSide / 2, kSide / 2, kBefore);
+  SendMessageW(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+  const bool erased = GetPixel(dc, kSide / 2, kSide / 2) != kBefore;
+  SelectObject(dc, before);
+  DeleteDC(dc);
+  return erased;
 }
 
 // A button goes down and comes up; native controls may wait for the second in the midst of the first.

@@ -190,8 +190,12 @@ TEST_F(WindowsTreePaneTest, HoldsItemsForOpenNodesAlone) {
 TEST_F(WindowsTreePaneTest, TakesANewTreeOverOnceWhenSomebodyLooks) {
   AddRoots();
   int inserted = 0;
+  bool erased = false;
   const Ear counter(pane.window(), [&](UINT message, WPARAM, LPARAM) {
-    inserted += message == TVM_INSERTITEMW ? 1 : 0;
+    if (message == TVM_INSERTITEMW) {
+      ++inserted;
+      erased |= test::Erases(pane.window());
+    }
     return std::optional<LRESULT>();
   });
   for (int times = 0; times < 3; ++times) {
@@ -203,6 +207,8 @@ TEST_F(WindowsTreePaneTest, TakesANewTreeOverOnceWhenSomebodyLooks) {
   test::PumpMessages();
   EXPECT_EQ(Seen(), "+a\n+b*\n+c\n");
   EXPECT_EQ(inserted, 3);
+  EXPECT_FALSE(erased) << "while it was filled";
+  EXPECT_TRUE(test::Erases(pane.window()));
   // A click that makes the tree anew: what was clicked is another item then.
   onClick = [this] {
     tree.Clear();
